@@ -1,0 +1,33 @@
+# What every target of the project is built with: warnings, hardening, sanitizers.
+
+add_library(tessel_options INTERFACE)
+target_include_directories(tessel_options INTERFACE ${PROJECT_SOURCE_DIR})
+target_compile_options(tessel_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wold-style-cast
+  -Wnon-virtual-dtor -Woverloaded-virtual -Wnull-dereference
+  $<$<BOOL:${TESSEL_WARNINGS_AS_ERRORS}>:-Werror>)
+
+if(TESSEL_SANITIZE)
+  target_compile_options(tessel_options INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(tessel_options INTERFACE -fsanitize=address,undefined)
+  target_compile_definitions(tessel_options INTERFACE _GLIBCXX_ASSERTIONS)
+else()
+  target_compile_options(tessel_options INTERFACE
+    -fstack-protector-strong $<$<CONFIG:Release>:-U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2>)
+endif()
+if(TESSEL_COVERAGE)
+  target_compile_options(tessel_options INTERFACE --coverage)
+  target_link_options(tessel_options INTERFACE --coverage)
+endif()
+target_link_options(tessel_options INTERFACE -Wl,-z,relro,-z,now)
+
+include(CheckPIESupported)
+check_pie_supported()
+
+# tessel_library(NAME core SOURCES ... LINKS ...): one folder's library.
+function(tessel_library name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  add_library(${name} STATIC ${ARG_SOURCES})
+  target_link_libraries(${name} PUBLIC tessel_options ${ARG_LINKS})
+endfunction()

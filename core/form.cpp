@@ -1,0 +1,122 @@
+#include "core/form.h"
+
+#include <algorithm>
+
+#include "core/texts.h"
+
+namespace tessel {
+
+Form::Form(View& view)
+    : view_(view),
+      buttons_{{{"Saw", true},
+                {texts::kFill, false},
+                {texts::kConceal, false},
+                {"Solve", false},
+                {"Exit", true},
+                {"", true},
+                {texts::kHint, true},
+                {"Quit", true},
+                {"Restart", true},
+                {"Solution", true}}},
+      caption_(texts::kProgram),
+      textHint_(texts::kPressHint) {
+  boxes_[IndexOf(CheckBox::CheckPencilmarks)] = true;
+}
+
+template <typename T>
+void Form::Assign(T& field, const T& value, FormPart part, int index) {
+  if (field == value) return;
+  field = value;
+  view_.FormChanged(part, index);
+}
+
+MarkLook& Form::MarkOf(int cell, int digit) {
+  return LookOf(cell).marks[digit - 1];
+}
+
+const MarkLook& Form::Mark(int cell, int digit) const {
+  return Cell(cell).marks[digit - 1];
+}
+
+void Form::SetCellText(int cell, int digit) {
+  Assign(LookOf(cell).text, digit, FormPart::kCell, cell);
+}
+void Form::SetCellOpaque(int cell, bool opaque) {
+  Assign(LookOf(cell).opaque, opaque, FormPart::kCell, cell);
+}
+void Form::SetCellBackground(int cell, Rgb colour) {
+  Assign(LookOf(cell).background, colour, FormPart::kCell, cell);
+}
+
+void Form::SetMarkVisible(int cell, int digit, bool visible) {
+  Assign(MarkOf(cell, digit).visible, visible, FormPart::kCell, cell);
+}
+void Form::SetMarkColour(int cell, int digit, Rgb colour) {
+  Assign(MarkOf(cell, digit).colour, colour, FormPart::kCell, cell);
+}
+void Form::SetMarkBold(int cell, int digit, bool bold) {
+  Assign(MarkOf(cell, digit).bold, bold, FormPart::kCell, cell);
+}
+void Form::SetMarksVisible(int cell, bool visible) {
+  for (int digit = 1; digit <= kSide; ++digit) SetMarkVisible(cell, digit, visible);
+}
+void Form::SetMarksColour(int cell, Rgb colour) {
+  for (int digit = 1; digit <= kSide; ++digit) SetMarkColour(cell, digit, colour);
+}
+
+void Form::SetLabelRow(int row, Rgb colour) {
+  Assign(rowCaptions_[row], colour, FormPart::kRowCaption, row);
+}
+void Form::SetLabelColumn(int column, Rgb colour) {
+  Assign(columnCaptions_[column], colour, FormPart::kColumnCaption, column);
+}
+void Form::SetAllCaptions(Rgb colour) {
+  for (int line = 0; line < kSide; ++line) {
+    SetLabelRow(line, colour);
+    SetLabelColumn(line, colour);
+  }
+}
+void Form::HighlightCell(int cell) {
+  SetLabelRow(RowOf(cell), kHighlightRed);
+  SetLabelColumn(ColumnOf(cell), kHighlightRed);
+}
+
+void Form::Enable(Button button, bool enabled) {
+  Assign(buttons_[IndexOf(button)].enabled, enabled, FormPart::kButton, static_cast<int>(button));
+}
+void Form::SetButtonCaption(Button button, const std::string& caption) {
+  Assign(buttons_[IndexOf(button)].caption, caption, FormPart::kButton, static_cast<int>(button));
+}
+void Form::SetChecked(CheckBox box, bool checked) {
+  Assign(boxes_[IndexOf(box)], checked, FormPart::kCheckBox, static_cast<int>(box));
+}
+
+void Form::SetCaption(const std::string& caption) {
+  Assign(caption_, caption, FormPart::kWindowCaption);
+}
+void Form::ShowSolveButtons(bool visible) {
+  Assign(solveButtonsVisible_, visible, FormPart::kSolveButtons);
+}
+void Form::EnableSolveButtons(bool enabled) {
+  Assign(solveButtonsEnabled_, enabled, FormPart::kSolveButtons);
+}
+void Form::SetTextHint(const std::string& text) {
+  Assign(textHint_, text, FormPart::kHintText);
+}
+void Form::SetNotice(const std::string& text) {
+  Assign(notice_, text, FormPart::kNotice);
+}
+
+void Form::SelectText1(std::size_t start, std::size_t length) {
+  text1SelectionStart_ = std::min(start, text1_.size());
+  text1SelectionLength_ = std::min(length, text1_.size() - text1SelectionStart_);
+}
+void Form::ReplaceText1Selection(const std::string& text) {
+  std::string changed = text1_;
+  changed.replace(text1SelectionStart_, text1SelectionLength_, text);
+  const std::size_t caret = text1SelectionStart_ + text.size();
+  Assign(text1_, changed, FormPart::kText1);
+  SelectText1(caret, 0);
+}
+
+}  // namespace tessel

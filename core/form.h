@@ -1,0 +1,150 @@
+// What every control of the window shows now. The logic writes it and reads it back; front ends
+// paint from it and hold no copy.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+
+#include "core/cell.h"
+#include "core/colour.h"
+#include "core/view.h"
+
+namespace tessel {
+
+enum class Button : std::uint8_t {
+  CommandSaw,
+  CommandGo,
+  CommandConceal,
+  CommandSolve,
+  CommandExit,
+  Command1,
+  CommandHint,
+  CommandQuit,
+  CommandRestart,
+  CommandSolution,
+};
+inline constexpr std::size_t kButtonCount = 10;
+
+enum class CheckBox : std::uint8_t {
+  Rotational,
+  MakeRegular,
+  ConcealRotational,
+  CheckVisualize,
+  CheckPencilmarks,
+};
+inline constexpr std::size_t kCheckBoxCount = 5;
+
+// Whether the control sits in the frame `SolveButtons`.
+constexpr bool IsSolveButton(Button button) {
+  return button >= Button::CommandHint;
+}
+constexpr bool IsSolveButton(CheckBox box) {
+  return box == CheckBox::CheckPencilmarks;
+}
+
+constexpr std::size_t IndexOf(Button button) {
+  return static_cast<std::size_t>(button);
+}
+constexpr std::size_t IndexOf(CheckBox box) {
+  return static_cast<std::size_t>(box);
+}
+
+struct ButtonLook {
+  std::string caption;
+  bool enabled = true;
+};
+
+struct MarkLook {
+  bool visible = true;
+  bool bold = false;
+  Rgb colour = kBoardColour;
+};
+
+struct CellLook {
+  int text = 0;         // the digit that the cell's label shows, 0 for none
+  bool opaque = false;  // whether the background is drawn
+  Rgb background = kBoardColour;
+  std::array<MarkLook, kSide> marks;  // Mark1..Mark9, index digit - 1
+
+  Rgb PaintedBackground() const { return opaque ? background : kBoardColour; }
+};
+
+// Setters drop writes that change nothing and report the others to View::FormChanged.
+class Form {
+ public:
+  explicit Form(View& view);
+
+  const CellLook& Cell(int cell) const { return cells_[cell]; }
+  void SetCellText(int cell, int digit);
+  void SetCellOpaque(int cell, bool opaque);
+  void SetCellBackground(int cell, Rgb colour);
+
+  const MarkLook& Mark(int cell, int digit) const;
+  void SetMarkVisible(int cell, int digit, bool visible);
+  void SetMarkColour(int cell, int digit, Rgb colour);
+  void SetMarkBold(int cell, int digit, bool bold);
+  void SetMarksVisible(int cell, bool visible);
+  void SetMarksColour(int cell, Rgb colour);
+
+  Rgb LabelRow(int row) const { return rowCaptions_[row]; }
+  Rgb LabelColumn(int column) const { return columnCaptions_[column]; }
+  void SetLabelRow(int row, Rgb colour);
+  void SetLabelColumn(int column, Rgb colour);
+  void SetAllCaptions(Rgb colour);
+  // Colours the captions of the cell's row and column red; the others stay.
+  void HighlightCell(int cell);
+
+  const ButtonLook& Of(Button button) const { return buttons_[IndexOf(button)]; }
+  void Enable(Button button, bool enabled);
+  void SetButtonCaption(Button button, const std::string& caption);
+
+  bool Checked(CheckBox box) const { return boxes_[IndexOf(box)]; }
+  void SetChecked(CheckBox box, bool checked);
+
+  const std::string& Caption() const { return caption_; }
+  void SetCaption(const std::string& caption);
+
+  bool SolveButtonsVisible() const { return solveButtonsVisible_; }
+  void ShowSolveButtons(bool visible);
+  // Off while a generation command runs: the frame as a whole answers nothing then, whatever the
+  // enabled states of the controls in it.
+  bool SolveButtonsEnabled() const { return solveButtonsEnabled_; }
+  void EnableSolveButtons(bool enabled);
+
+  const std::string& TextHint() const { return textHint_; }
+  void SetTextHint(const std::string& text);
+
+  // The spare text box, not shown. Its selection is a caret position and a length.
+  const std::string& Text1() const { return text1_; }
+  void SelectText1(std::size_t start, std::size_t length);
+  void ReplaceText1Selection(const std::string& text);
+
+  // The line at the foot of the window; empty when there is nothing to say.
+  const std::string& Notice() const { return notice_; }
+  void SetNotice(const std::string& text);
+
+ private:
+  template <typename T>
+  void Assign(T& field, const T& value, FormPart part, int index = 0);
+  CellLook& LookOf(int cell) { return cells_[cell]; }
+  MarkLook& MarkOf(int cell, int digit);
+
+  View& view_;
+  std::array<CellLook, kCellCount> cells_;
+  std::array<Rgb, kSide> rowCaptions_{};
+  std::array<Rgb, kSide> columnCaptions_{};
+  std::array<ButtonLook, kButtonCount> buttons_;
+  std::array<bool, kCheckBoxCount> boxes_{};
+  std::string caption_;
+  std::string textHint_;
+  std::string text1_;
+  std::string notice_;
+  std::size_t text1SelectionStart_ = 0;
+  std::size_t text1SelectionLength_ = 0;
+  bool solveButtonsVisible_ = false;
+  bool solveButtonsEnabled_ = true;
+};
+
+}  // namespace tessel

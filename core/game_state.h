@@ -1,0 +1,125 @@
+// The one record of state that the main window owns and every procedure reads and writes.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "core/cell.h"
+#include "core/colour.h"
+#include "core/puzzle_record.h"
+#include "core/stopwatch.h"
+
+namespace tessel {
+
+// A boolean held in a 16-bit field.
+enum class Bool16 : std::int16_t { False = 0, True = -1 };
+
+// How the pencil marks of the solving mode are kept.
+enum class MarkMode : std::int16_t {
+  kNotUpdated = 1,  // "Update Pencilmarks" unticked: every mark of an empty cell is shown
+  kAutomatic = 2,   // ticked: an empty cell shows its candidates
+};
+
+// What a hint has found; `None` only until the first find.
+enum class HintCode : std::int16_t {
+  None = 0,
+  NakedSingle = 1,
+  HiddenSingleRow = 2,
+  HiddenSingleColumn = 3,
+  HiddenSingleCage = 4,
+  PointingPair = 5,
+  BoxLineRow = 6,
+  BoxLineColumn = 7,
+  NakedSubsetRow = 8,
+  NakedSubsetColumn = 9,
+  NakedSubsetCage = 10,
+  HiddenSubsetRow = 11,
+  HiddenSubsetColumn = 12,
+  HiddenSubsetCage = 13,
+  XWingRows = 14,
+  XWingColumns = 15,
+  SwordFishRows = 16,
+  SwordFishColumns = 17,
+};
+
+template <typename T>
+using PerCell = std::array<T, kCellCount>;
+using CellDigits = PerCell<std::int16_t>;  // digit 1..9, or 0 for none
+using MaskBoard = PerCell<Mask>;           // a candidate mask for each cell
+using HouseCells = std::array<std::int16_t, kSide>;
+
+struct GameState {
+  std::string ProgramPath;  // the program's folder, always ending in the platform's separator
+
+  // Tables, filled at start-up.
+  std::array<std::int16_t, 512> BitCount{};       // number of set bits of the index
+  std::array<std::int16_t, kSide> AxisLetters{};  // character codes of the row names, "A".."H", "J"
+  std::array<Rgb, kSide> CageColour{};            // index cage - 1
+
+  // The layout. CageCells is derived from CageOfCell, in ascending cell order.
+  PerCell<std::int16_t> CageOfCell{};  // cage 1..9, or 0 before the first Saw and while sawing
+  std::array<HouseCells, kSide> CageCells{};  // [cage - 1][k]
+
+  CellDigits WorkGrid{};  // the working board of generation
+  CellDigits Puzzle{};    // the finished puzzle's givens
+  PuzzleRecord SavedPuzzle;
+  PuzzleRecord PlayBoard;  // the solving mode's copy, with the player's digits
+
+  MaskBoard Candidates{};
+  MaskBoard CandidatesBeforeEntry{};  // a cell's mask when the player placed a digit in it
+  MarkMode PencilmarkMode = MarkMode::kAutomatic;
+  bool Finished =
+      false;  // kept up to date, read by nothing: CommandSolution's enabled state decides
+
+  // The undo stack of RemoveCandidates: entries 1..UndoCount, entry 0 unused.
+  std::vector<std::int16_t> UndoDigit;
+  std::vector<std::int16_t> UndoCell;
+  std::vector<std::int16_t> UndoRowMask;     // bit k: removed from the k-th cell of the row
+  std::vector<std::int16_t> UndoColumnMask;  // bit k: removed from the k-th cell of the column
+  std::vector<std::int16_t> UndoCageMask;    // bit k: removed from CageCells[cage - 1][k]
+  std::int16_t UndoCount = 0;
+  CellDigits CellList{};  // read by RemoveCandidates; nothing fills it
+
+  bool StopRequested = false;
+  std::unique_ptr<sTime> Stopwatch;  // of the running stage
+
+  std::array<std::int32_t, 12> SoundIds{};
+  bool SoundOn = false;
+  bool Command1Pressed = false;  // set by the spare button, read by nothing
+
+  // The hint result: a technique sets the fields that its kind needs, the others keep their values.
+  HintCode HintKind = HintCode::None;
+  std::int16_t HintCell = 0;
+  std::int16_t HintDigit = 0;
+  std::int16_t HintUnit1 = 0;
+  std::int16_t HintUnit2 = 0;
+  std::int16_t HintUnit3 = 0;
+  Bool16 AssignmentPending = Bool16::False;
+  MaskBoard SpecialMarks{};  // the special pass's copy of Candidates
+};
+
+// Fills BitCount, AxisLetters and CageColour.
+void FillTables(GameState& state);
+
+// Rebuilds CageCells from a complete CageOfCell (every cage 1..9 nine times).
+void RebuildCageCells(GameState& state);
+
+// The cells of the cage that `cell` lies in; none while the cell is in no cage.
+std::span<const std::int16_t> CageAround(const GameState& state, int cell);
+
+// The background of the cell's cage; the board's own colour while the cell is in no cage.
+Rgb CageColourOf(const GameState& state, int cell);
+
+// Removes `digit` from the candidates of every cell of the cell's row, column and cage.
+void RemoveFromHouses(const GameState& state, int cell, int digit, MaskBoard& candidates);
+
+// "B4": the row letter and the column digit.
+std::string CellName(const GameState& state, int cell);
+std::string RowName(const GameState& state, int row);
+std::string ColumnName(int column);
+
+}  // namespace tessel

@@ -1,0 +1,40 @@
+// The port to the front end: a window, a test, a tool.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace tessel {
+
+enum class FormPart : std::uint8_t {
+  kCell,           // index: cell 0..80
+  kRowCaption,     // index: row 0..8
+  kColumnCaption,  // index: column 0..8
+  kButton,         // index: of enum Button
+  kCheckBox,       // index: of enum CheckBox
+  kWindowCaption,
+  kSolveButtons,
+  kHintText,
+  kText1,
+  kNotice,
+};
+
+// Everything but FormChanged may call back into Tessel_Main before it returns: PumpEvents and
+// AskYesNo deliver the events that wait.
+class View {
+ public:
+  virtual ~View() = default;
+
+  virtual void Show() = 0;
+  // A number that stands for the window towards the sound player.
+  virtual std::int32_t WindowHandle() = 0;
+  // Delivers the events that wait; called once a step of long work, so it must be cheap.
+  virtual void PumpEvents() = 0;
+  virtual bool AskYesNo(const std::string& question, const std::string& title) = 0;
+  virtual void Beep() = 0;
+  virtual void EndProgram() = 0;
+  // The Form shows something else at this place now. Only to be noted: it is no place to act in.
+  virtual void FormChanged(FormPart part, int index) = 0;
+};
+
+}  // namespace tessel

@@ -1,0 +1,87 @@
+// The main window's logic: start-up, the stage machine, solving mode. Front ends deliver every
+// event here and show what `form()` holds.
+#pragma once
+
+#include <string>
+
+#include "core/form.h"
+#include "core/game_state.h"
+#include "core/random_source.h"
+#include "core/sounds.h"
+#include "hints/candidate_marks.h"
+#include "hints/hint_button.h"
+#include "layout/cage_generator.h"
+#include "search/conceal.h"
+#include "search/exact_cover_search.h"
+#include "search/fill.h"
+#include "shell/puzzle_file.h"
+
+namespace tessel {
+
+enum class MouseButton : std::int16_t { kLeft = 1, kRight = 2, kMiddle = 4 };
+
+// A cell is 375 x 375 units; the mark of digit d sits in the 125-unit square at row (d-1) div 3,
+// column (d-1) mod 3 of the cell.
+inline constexpr int kCellUnits = 375;
+inline constexpr int kMarkUnits = 125;
+
+class Tessel_Main {
+ public:
+  // `programFolder` is where the sounds lie and the puzzle file is written.
+  Tessel_Main(View& view, SoundPlayer& player, Clock& clock, RandomSource& random,
+              std::string programFolder, SystemCalls& system = RealSystemCalls());
+
+  // Start-up; call it once, before any event.
+  void Form_Load();
+
+  // A press of the control as the user can make it: does nothing while the control is disabled,
+  // hidden, in the disabled frame, or behind a question.
+  void Click(Button button);
+  // The box's own toggling and what follows from it; the same restrictions as Click.
+  void Toggle(CheckBox box);
+  // A mouse button released over a cell, 0..80, at (x, y) units from the cell's top left corner;
+  // positions outside the cell are allowed. The shift state is ignored.
+  void Grid_MouseUp(int cell, MouseButton button, int shift, double x, double y);
+  // The request to close the window; true when the window may close.
+  bool Form_QueryUnload();
+
+  const Form& form() const { return form_; }
+  const GameState& state() const { return state_; }
+  GameState& state() { return state_; }
+  // Whether a generation command is at work.
+  bool Running() const { return running_; }
+
+ private:
+  class CommandRun;
+
+  void CommandSaw_Click();
+  void CommandGo_Click();
+  void CommandConceal_Click();
+  void CommandSolve_Click();
+  void CommandExit_Click();
+  void Command1_Click();
+  void CommandQuit_Click();
+  void CommandRestart_Click();
+  void CommandSolution_Click();
+  void CheckPencilmarks_Click();
+
+  bool Answers(Button button) const;
+  bool Answers(CheckBox box) const;
+  bool Ask(const char* question, const char* title);
+  bool ConfirmQuitProgram();
+  void SaveTessel();
+
+  View& view_;
+  Clock& clock_;
+  RandomSource& random_;
+  SystemCalls& system_;
+  std::string programFolder_;
+  GameState state_;
+  Form form_;
+  Sounds sounds_;
+  ExactCoverSearch search_;
+  bool running_ = false;
+  bool asking_ = false;
+};
+
+}  // namespace tessel

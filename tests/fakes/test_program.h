@@ -1,0 +1,43 @@
+// The whole program with fakes behind its ports, started.
+#pragma once
+
+#include "core/random_source.h"
+#include "shell/tessel_main.h"
+#include "tests/fakes/fake_clock.h"
+#include "tests/fakes/fake_sound_player.h"
+#include "tests/fakes/recording_view.h"
+#include "tests/fakes/temporary_folder.h"
+
+namespace tessel {
+
+struct TestProgram {
+  explicit TestProgram(std::uint64_t firstSeed = 1) : clock(firstSeed) { main.Form_Load(); }
+
+  const Form& form() const { return main.form(); }
+  GameState& state() { return main.state(); }
+
+  void Tick(CheckBox box, bool checked = true) {
+    if (form().Checked(box) != checked) main.Toggle(box);
+  }
+  // Clicks the centre of a digit's mark.
+  void ClickMark(int cell, int digit, MouseButton button) {
+    const int row = (digit - 1) / 3;
+    const int column = (digit - 1) % 3;
+    main.Grid_MouseUp(cell, button, 0, kMarkUnits * (column + 0.5), kMarkUnits * (row + 0.5));
+  }
+  // Saw, Fill and Conceal.
+  void MakePuzzle() {
+    main.Click(Button::CommandSaw);
+    main.Click(Button::CommandGo);
+    main.Click(Button::CommandConceal);
+  }
+
+  TemporaryFolder folder;
+  FakeClock clock;
+  FakeSoundPlayer player;
+  RecordingView view;
+  SeededRandom random;
+  Tessel_Main main{view, player, clock, random, folder.Path().string()};
+};
+
+}  // namespace tessel
