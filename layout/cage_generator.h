@@ -1,7 +1,9 @@
 // Saws the board into nine connected cages of nine cells by random walks.
 #pragma once
 
+#include <array>
 #include <functional>
+#include <optional>
 
 #include "core/cell_set.h"
 #include "core/form.h"
@@ -31,13 +33,18 @@ class CageGenerator {
   bool OpenField(int CellsToCover, int CurrentCage, int LastAddedCell) const;
 
  private:
-  enum class Outcome { kDone, kAbandoned };
-
-  Outcome Attempt();
-  Outcome GrowCage();
-  Outcome ClaimNextCell(int k);
-  Outcome MirrorCage();
-  Outcome GrowCentreCage();
+  bool Attempt();
+  bool GrowCage();
+  bool ClaimNextCell(int k);
+  bool MayStand(int cell, int cellsToCover) const;
+  bool MirrorCage();
+  bool GrowCentreCage();
+  bool ClaimNextCentreCell();
+  bool IsEnclosed() const;
+  std::optional<int> DrawNeighbour();
+  void Claim(int cell, int cage);
+  void PaintProgress(int cell);
+  void Paint(int cell);
 
   GameState& state_;
   Form& form_;
@@ -45,6 +52,13 @@ class CageGenerator {
   RandomSource& random_;
   Clock& clock_;
   AcceptLayout accept_;
+
+  // The attempt at work. Every step below is part of one; those that can fail return false when the
+  // attempt is to be abandoned.
+  bool rotational_ = false;
+  int Cage = 0;                         // the cage being grown
+  int CurrentCell = 0;                  // the walker, always on a cell of Cage
+  std::array<int, kSide> GrowthList{};  // the cells of Cage in the order of their claiming
 };
 
 }  // namespace tessel

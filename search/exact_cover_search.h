@@ -1,0 +1,98 @@
+// The depth-first search over candidate masks that fills layouts and decides uniqueness.
+//
+// A trial level holds a run of trial placements, undone one by one through its log; above it a
+// singles level holds the placements that they forced and is only ever dropped whole. A level is
+// opened by one copy of the level below it.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "core/game_state.h"
+#include "core/view.h"
+#include "search/search_level.h"
+
+namespace tessel {
+
+// What the drivers of the search decide differently.
+class SearchDriver {
+ public:
+  virtual ~SearchDriver() = default;
+
+  // Asked once an iteration, before anything is placed; false ends the search.
+  virtual bool Proceed() = 0;
+  // A full solution stands in the top level; true looks for the next one.
+  virtual bool ContinueAfterSolution() = 0;
+  // `pos`: the position of the placed cell.
+  virtual void TrialPlaced(int pos, int cell);
+  // `pos`: the position below the placed cell.
+  virtual void SinglePlaced(int pos, int cell);
+};
+
+enum class SearchEnd : std::uint8_t {
+  kSolved,     // the driver was content with a solution, which stands in the top level
+  kStopped,    // the driver refused to proceed
+  kExhausted,  // there are no further solutions
+};
+
+// The procedures named DLX work on the top level, Levels[Depth]. They rely on Digit telling the
+// cells at positions 0..Pos (0) from the filled ones (1..9).
+class ExactCoverSearch {
+ public:
+  // The layout is read from `state`, whose BitCount must be filled.
+  ExactCoverSearch(GameState& state, View& view);
+
+  // True exactly when the givens in WorkGrid, any 81 numbers of which those up to 0 mean empty,
+  // have one and only one completion. Pumps once an iteration.
+  bool UniqueSolution();
+
+  // Prepares a search of the empty layout that takes the cells in `order`, a permutation of 0..80.
+  void StartEmpty(const PerCell<std::int16_t>& order);
+  SearchEnd Run(SearchDriver& driver);
+
+  // Places the first cell at positions 0..Ptr that has one candidate left, takes the digit from its
+  // unfilled peers without logging it, and moves the cell to position Ptr. False when there is
+  // none.
+  bool DLXNakedSingle(int Ptr);
+  // Logs the placing of `Candidate` in `Cell`, whose Digit must be set, and takes the digit from
+  // the cells at positions 0..RemovePtr that share a house with it. A cell that shares the row is
+  // logged in the row mask alone, else one that shares the column in the column mask alone.
+  void DLXRemoveCandidates(int Cell, int Candidate, int RemovePtr);
+  // Reverts the newest entry of the log. The placed cell's own candidates were never touched.
+  void DLXUndo();
+
+  const SearchLevel& Top() const { return Levels[Depth]; }
+  // Iterations of the search loop since the program started.
+  std::int64_t Iterations() const { return iterations_; }
+
+  std::vector<SearchLevel> Levels;
+  std::int16_t Depth = 0;
+
+ private:
+  struct Outlook {
+    bool deadEnd;  // an unfilled cell has no candidate left
+    bool single;   // an unfilled cell has exactly one
+  };
+
+  void Reset();
+  bool StartFromGivens();
+  bool PlaceSinglesOfGivens();
+  void Step(SearchDriver& driver);
+  void ChooseCell();
+  void TryFirstDigit();
+  bool TryNextDigit();
+  void PropagateSingles(SearchDriver& driver);
+  void OpenLevel();
+  Outlook LookAhead() const;
+  std::int16_t& Pos() { return levelPos_[Depth]; }
+
+  GameState& state_;
+  View& view_;
+  // For each level, the position in Order of the cell being decided (-1: every cell is filled), and
+  // what it was when the level was opened.
+  std::vector<std::int16_t> levelPos_;
+  std::vector<std::int16_t> levelStart_;
+  std::int64_t iterations_ = 0;
+};
+
+}  // namespace tessel

@@ -1,0 +1,34 @@
+// Fills the layout with a random complete solution.
+#pragma once
+
+#include "core/form.h"
+#include "core/game_state.h"
+#include "core/random_source.h"
+#include "search/exact_cover_search.h"
+
+namespace tessel {
+
+class FillGenerator {
+ public:
+  FillGenerator(GameState& state, Form& form, View& view, RandomSource& random, Clock& clock,
+                ExactCoverSearch& search)
+      : state_(state), form_(form), view_(view), random_(random), clock_(clock), search_(search) {}
+
+  // True when a solution was found: it is drawn and copied into WorkGrid, and the caption tells the
+  // time. False when StopRequested was set, which is cleared, or the layout has no filling:
+  // WorkGrid and the caption are left as they stand.
+  bool GenerateTessel();
+
+ private:
+  bool FindSolution();
+  bool DrawSearch(const PerCell<std::int16_t>& order);
+
+  GameState& state_;
+  Form& form_;
+  View& view_;
+  RandomSource& random_;
+  Clock& clock_;
+  ExactCoverSearch& search_;
+};
+
+}  // namespace tessel
