@@ -61,9 +61,10 @@ constexpr CellSet NeighboursOf(CellSet cells) {
   return (across | cells.Later(kSide) | cells.Earlier(kSide)) & CellSet::All();
 }
 
-// The cells of `area` that can be reached from `start`, a cell of `area`, without leaving it.
-constexpr CellSet RegionAround(int start, CellSet area) {
-  CellSet region = CellSet::Of(start);
+// The connected cells of `area` around its lowest-numbered cell; empty when `area` is.
+constexpr CellSet FirstRegionOf(CellSet area) {
+  if (area.Empty()) return area;
+  CellSet region = CellSet::Of(area.First());
   while (true) {
     const CellSet grown = region | (NeighboursOf(region) & area);
     if (grown == region) return region;

@@ -188,11 +188,10 @@ bool CageGenerator::OpenField(int CellsToCover, int CurrentCage, int /*LastAdded
   const int empty = (kSide - CurrentCage) * kSide + CellsToCover;
   if (empty == 0) return true;
   const CellSet unclaimed = Unclaimed(state_);
-  const CellSet first = RegionAround(unclaimed.First(), unclaimed);
+  const CellSet first = FirstRegionOf(unclaimed);
   const int size1 = first.Count();
   if (size1 == empty) return true;
-  const CellSet rest = unclaimed - first;
-  const int size2 = RegionAround(rest.First(), rest).Count();
+  const int size2 = FirstRegionOf(unclaimed - first).Count();
   if (size1 + size2 != empty) return false;
   return size1 % kSide <= CellsToCover || size2 % kSide <= CellsToCover;
 }

@@ -8,13 +8,8 @@
 #include "core/game_state.h"
 #include "core/random_source.h"
 #include "core/sounds.h"
-#include "hints/candidate_marks.h"
-#include "hints/hint_button.h"
-#include "layout/cage_generator.h"
-#include "search/conceal.h"
 #include "search/exact_cover_search.h"
-#include "search/fill.h"
-#include "shell/puzzle_file.h"
+#include "shell/system_calls.h"
 
 namespace tessel {
 
@@ -48,30 +43,55 @@ class Tessel_Main {
   const Form& form() const { return form_; }
   const GameState& state() const { return state_; }
   GameState& state() { return state_; }
-  // Whether a generation command is at work.
-  bool Running() const { return running_; }
 
  private:
-  class CommandRun;
+  // Stands for the run of a generation command, which nothing else may disturb.
+  class CommandRun {
+   public:
+    explicit CommandRun(Tessel_Main& main);
+    CommandRun(const CommandRun&) = delete;
+    CommandRun& operator=(const CommandRun&) = delete;
+    ~CommandRun();
 
+   private:
+    Tessel_Main& main_;
+  };
+
+  // generation_commands.cpp
   void CommandSaw_Click();
   void CommandGo_Click();
   void CommandConceal_Click();
-  void CommandSolve_Click();
-  void CommandExit_Click();
-  void Command1_Click();
-  void CommandQuit_Click();
-  void CommandRestart_Click();
-  void CommandSolution_Click();
-  void CheckPencilmarks_Click();
-
-  bool Answers(Button button) const;
-  bool Answers(CheckBox box) const;
-  bool Ask(const char* question, const char* title);
-  bool ConfirmQuitProgram();
+  void RunSaw();
+  void RunFill();
+  void RunConceal();
   void SaveTessel();
 
+  // solving_mode.cpp
+  void CommandSolve_Click();
+  void CommandRestart_Click();
+  void CommandSolution_Click();
+  void CommandQuit_Click();
+  void CheckPencilmarks_Click();
+  bool PlaceDigit(int cell, int digit);
+  bool TakeOutOrToggle(int cell, int digit);
+  bool ResetCell(int cell);
+  void TakeOut(int cell);
+  void ToggleMark(int cell, int digit);
+  void RefreshPencilmarks();
+  void OpenBoard();
+  void CloseBoard();
+  void ShowPuzzleCell(int cell);
+
+  // tessel_main.cpp
+  void CommandExit_Click();
+  void Command1_Click();
+  bool Answers(Button button) const;
+  bool Answers(CheckBox box) const;
+  bool SolveButtonsAnswer() const;
+  bool Ask(const char* question, const char* title);
+
   View& view_;
+  SoundPlayer& player_;
   Clock& clock_;
   RandomSource& random_;
   SystemCalls& system_;
@@ -80,8 +100,8 @@ class Tessel_Main {
   Form form_;
   Sounds sounds_;
   ExactCoverSearch search_;
-  bool running_ = false;
-  bool asking_ = false;
+  bool running_ = false;  // a generation command is at work
+  bool asking_ = false;   // a question is open
 };
 
 }  // namespace tessel

@@ -1,0 +1,29 @@
+// The puzzle file "Tessel_Sudoku.sds": records of 243 bytes, one after another, only ever appended.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "core/puzzle_record.h"
+#include "shell/system_calls.h"
+
+namespace tessel {
+
+inline constexpr char kPuzzleFileName[] = "Tessel_Sudoku.sds";
+
+// The number of records in a file of `length` bytes, rounded to the nearest: a fragment of up to
+// 121 bytes does not count and is overwritten, one of 122 or more counts and stays.
+constexpr std::int64_t RecordsIn(std::int64_t length) {
+  constexpr std::int64_t recordSize = sizeof(PuzzleRecord);
+  return (length + recordSize / 2) / recordSize;
+}
+
+// Appends the record to the file, which is created when missing, and has it on disk on return.
+// Programs that append to the same file wait for each other. Returns what went wrong, in the
+// system's words, with the file as long as it was; nothing when the record is safe.
+[[nodiscard]] std::optional<std::string> AppendPuzzle(const std::string& path,
+                                                      const PuzzleRecord& record,
+                                                      SystemCalls& system);
+
+}  // namespace tessel

@@ -1,0 +1,104 @@
+#include "shell/tessel_main.h"
+
+#include <filesystem>
+#include <utility>
+
+#include "core/texts.h"
+#include "hints/hint_button.h"
+
+namespace tessel {
+
+Tessel_Main::Tessel_Main(View& view, SoundPlayer& player, Clock& clock, RandomSource& random,
+                         std::string programFolder, SystemCalls& system)
+    : view_(view),
+      player_(player),
+      clock_(clock),
+      random_(random),
+      system_(system),
+      programFolder_(std::move(programFolder)),
+      form_(view),
+      sounds_(state_, player),
+      search_(state_, view) {}
+
+void Tessel_Main::Form_Load() {
+  view_.Show();
+  player_.SetOwner(view_.WindowHandle());
+  state_.ProgramPath = programFolder_;
+  const char separator = std::filesystem::path::preferred_separator;
+  if (!state_.ProgramPath.ends_with(separator)) state_.ProgramPath += separator;
+  sounds_.Init_Sound();
+  FillTables(state_);
+  state_.StopRequested = false;
+  form_.Enable(Button::CommandExit, true);
+  state_.AssignmentPending = Bool16::False;
+  state_.PencilmarkMode = MarkMode::kAutomatic;
+  random_.Seed(clock_.Seed());
+}
+
+void Tessel_Main::Click(Button button) {
+  if (!Answers(button)) return;
+  switch (button) {
+    case Button::CommandSaw:
+      return CommandSaw_Click();
+    case Button::CommandGo:
+      return CommandGo_Click();
+    case Button::CommandConceal:
+      return CommandConceal_Click();
+    case Button::CommandSolve:
+      return CommandSolve_Click();
+    case Button::CommandExit:
+      return CommandExit_Click();
+    case Button::Command1:
+      return Command1_Click();
+    case Button::CommandHint:
+      return HintButton(state_, form_, sounds_).CommandHint_Click();
+    case Button::CommandQuit:
+      return CommandQuit_Click();
+    case Button::CommandRestart:
+      return CommandRestart_Click();
+    case Button::CommandSolution:
+      return CommandSolution_Click();
+  }
+}
+
+void Tessel_Main::Toggle(CheckBox box) {
+  if (!Answers(box)) return;
+  form_.SetChecked(box, !form_.Checked(box));
+  if (box == CheckBox::CheckPencilmarks) CheckPencilmarks_Click();
+}
+
+bool Tessel_Main::Answers(Button button) const {
+  if (asking_ || !form_.Of(button).enabled) return false;
+  return !IsSolveButton(button) || SolveButtonsAnswer();
+}
+
+bool Tessel_Main::Answers(CheckBox box) const {
+  return !asking_ && (!IsSolveButton(box) || SolveButtonsAnswer());
+}
+
+bool Tessel_Main::SolveButtonsAnswer() const {
+  return form_.SolveButtonsVisible() && form_.SolveButtonsEnabled();
+}
+
+void Tessel_Main::CommandExit_Click() {
+  if (Ask(texts::kQuitProgram, texts::kProgram)) view_.EndProgram();
+}
+
+bool Tessel_Main::Form_QueryUnload() {
+  if (asking_ || !form_.Of(Button::CommandExit).enabled) return false;
+  return Ask(texts::kQuitProgram, texts::kProgram);
+}
+
+void Tessel_Main::Command1_Click() {
+  state_.Command1Pressed = true;
+}
+
+// While the question is open, no other event gets through.
+bool Tessel_Main::Ask(const char* question, const char* title) {
+  asking_ = true;
+  const bool yes = view_.AskYesNo(question, title);
+  asking_ = false;
+  return yes;
+}
+
+}  // namespace tessel
