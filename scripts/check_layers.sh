@@ -1,0 +1,28 @@
+#!/usr/bin/env bash
+# Fails when a folder includes one that it must not know, or Qt outside the window's folder.
+set -euo pipefail
+cd "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/.."
+
+status=0
+# only_includes FOLDER ALLOWED...: of the project's folders, FOLDER may include ALLOWED alone.
+only_includes() {
+  local folder=$1
+  local allowed=$2
+  if grep -rnE --include='*.h' --include='*.cpp' --exclude-dir=qt \
+    '^ *# *include *"' "$folder" | grep -vE "include *\"($allowed)/[a-z_0-9]+\.h\""; then
+    echo "^ $folder/ may include only: $allowed" >&2
+    status=1
+  fi
+}
+only_includes core 'core'
+only_includes layout 'core|layout'
+only_includes search 'core|search'
+only_includes hints 'core|hints'
+only_includes shell 'core|layout|search|hints|shell'
+
+if grep -rnE --include='*.h' --include='*.cpp' '^ *# *include *[<"]Q' \
+  core layout search hints shell --exclude-dir=qt; then
+  echo "^ Qt belongs to shell/qt/ alone" >&2
+  status=1
+fi
+exit $status
