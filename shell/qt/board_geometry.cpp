@@ -1,0 +1,78 @@
+#include "shell/qt/board_geometry.h"
+
+#include <QtMath>
+#include <algorithm>
+
+#include "shell/tessel_main.h"
+
+namespace tessel {
+
+namespace {
+
+constexpr int kLeastSide = 12;
+constexpr double kLeastCaptionPoints = 14.0;
+constexpr double kCaptionShare = 0.36;  // of the cell side, once that is more
+constexpr double kBandShare = 1.6;      // of the caption's size: the caption, its arrow, air
+constexpr int kMarksInLine = 3;
+
+}  // namespace
+
+BoardGeometry::BoardGeometry(QSize area, double scale, double pixelsPerPoint) {
+  const int room = std::min(area.width(), area.height());
+  int side = std::max(kLeastSide, room / kSide / kMarksInLine * kMarksInLine);
+  TakeSide(side, scale, pixelsPerPoint);
+  while (PanelSide() > room && side > kLeastSide) {
+    side -= kMarksInLine;
+    TakeSide(side, scale, pixelsPerPoint);
+  }
+  panel_ = QRect((area.width() - PanelSide()) / 2, (area.height() - PanelSide()) / 2, PanelSide(),
+                 PanelSide());
+}
+
+void BoardGeometry::TakeSide(int side, double scale, double pixelsPerPoint) {
+  side_ = side;
+  border_ = std::max(qRound(3 * scale), side / 14);
+  line_ = std::max(1, qFloor(scale));
+  captionPixels_ =
+      std::max(qCeil(kLeastCaptionPoints * pixelsPerPoint), qRound(kCaptionShare * side));
+  band_ = qRound(kBandShare * captionPixels_);
+  margin_ = border_ + qRound(6 * scale);
+}
+
+QRect BoardGeometry::BoardRect() const {
+  return {panel_.left() + band_, panel_.top() + band_, kSide * side_, kSide * side_};
+}
+
+QRect BoardGeometry::CellRect(int cell) const {
+  const QPoint origin = BoardRect().topLeft();
+  return {origin.x() + ColumnOf(cell) * side_, origin.y() + RowOf(cell) * side_, side_, side_};
+}
+
+QRect BoardGeometry::RowCaptionRect(int row) const {
+  const QRect first = CellRect(CellAt(row, 0));
+  return {panel_.left(), first.top(), band_ - border_, side_};
+}
+
+QRect BoardGeometry::ColumnCaptionRect(int column) const {
+  const QRect first = CellRect(CellAt(0, column));
+  return {first.left(), panel_.top(), side_, band_ - border_};
+}
+
+QRect BoardGeometry::MarkRect(int cell, int digit) const {
+  const int third = side_ / kMarksInLine;
+  const QPoint corner = CellRect(cell).topLeft();
+  return {corner.x() + (digit - 1) % kMarksInLine * third,
+          corner.y() + (digit - 1) / kMarksInLine * third, third, third};
+}
+
+std::optional<CellPoint> BoardGeometry::At(QPointF point) const {
+  const QPointF onBoard = point - BoardRect().topLeft();
+  const int column = qFloor(onBoard.x() / side_);
+  const int row = qFloor(onBoard.y() / side_);
+  if (column < 0 || column >= kSide || row < 0 || row >= kSide) return std::nullopt;
+  const double unit = static_cast<double>(kCellUnits) / side_;
+  return CellPoint{CellAt(row, column), (onBoard.x() - column * side_) * unit,
+                   (onBoard.y() - row * side_) * unit};
+}
+
+}  // namespace tessel

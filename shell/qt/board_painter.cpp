@@ -1,0 +1,208 @@
+#include "shell/qt/board_painter.h"
+
+#include <QFontMetrics>
+#include <QPainter>
+#include <QtMath>
+
+namespace tessel {
+
+namespace {
+
+constexpr double kDigitShare = 0.6;  // of the cell side
+constexpr double kMarkShare = 0.25;
+const QColor kInnerLine(0, 0, 0, 80);
+const QColor kFocusRing(0, 60, 200);
+
+QColor ToColour(Rgb colour) {
+  return {colour.red, colour.green, colour.blue};
+}
+
+QFont SizedFont(QFont font, int pixels, bool bold) {
+  font.setPixelSize(pixels);
+  font.setBold(bold);
+  font.setHintingPreference(QFont::PreferFullHinting);
+  font.setStyleStrategy(QFont::NoSubpixelAntialias);
+  return font;
+}
+
+// Centres by advance and cap height, so that equal digits sit equally whatever their shape.
+void DrawCentred(QPainter& painter, const QRect& place, const QString& text) {
+  const QFontMetrics metrics(painter.font());
+  const int left = place.left() + (place.width() - metrics.horizontalAdvance(text)) / 2;
+  const int baseline = place.top() + (place.height() + metrics.capHeight()) / 2;
+  painter.drawText(left, baseline, text);
+}
+
+QString DigitText(int digit) {
+  return QString(QChar('0' + digit));
+}
+
+// The band between `from` and `to` pixels inside the outline of `cells`. A cell is so much larger
+// than the band that the four diagonal shifts find every place near the outline.
+QRegion Ring(const QRegion& cells, int from, int to) {
+  const auto shrunk = [&cells](int by) {
+    return cells.translated(by, by) & cells.translated(-by, -by) & cells.translated(by, -by) &
+           cells.translated(-by, by);
+  };
+  return shrunk(from) - shrunk(to);
+}
+
+void FillRegion(QPainter& painter, const QRegion& region, const QColor& colour) {
+  for (const QRect& part : region) painter.fillRect(part, colour);
+}
+
+}  // namespace
+
+bool IsEntry(const Form& form, const GameState& state, int cell) {
+  return form.SolveButtonsVisible() && form.Cell(cell).text != 0 &&
+         state.SavedPuzzle.Board[cell] == 0;
+}
+
+bool IsMarkShown(const Form& form, int cell, int digit) {
+  const MarkLook& mark = form.Mark(cell, digit);
+  return mark.visible && mark.colour != form.Cell(cell).PaintedBackground();
+}
+
+BoardPainter::BoardPainter(const Form& form, const GameState& state, const BoardGeometry& geometry,
+                           const QFont& font)
+    : form_(form),
+      state_(state),
+      geometry_(geometry),
+      digitFont_(SizedFont(font, qRound(kDigitShare * geometry.CellSide()), true)),
+      markFont_(SizedFont(font, qRound(kMarkShare * geometry.CellSide()), false)),
+      captionFont_(SizedFont(font, geometry.CaptionPixels(), true)) {}
+
+void BoardPainter::Paint(QPainter& painter, const QRegion& region,
+                         const BoardPointers& pointers) const {
+  painter.setClipRegion(region);
+  painter.fillRect(geometry_.PanelRect(), ToColour(kBoardColour));
+  if (!region.subtracted(geometry_.BoardRect()).isEmpty()) PaintCaptions(painter);
+  for (int cell = 0; cell < kCellCount; ++cell) {
+    if (region.intersects(geometry_.CellRect(cell))) PaintCell(painter, cell);
+  }
+  PaintLines(painter, region);
+  PaintPointers(painter, pointers);
+}
+
+void BoardPainter::PaintCaptions(QPainter& painter) const {
+  painter.setFont(captionFont_);
+  const int arrow = geometry_.CaptionPixels() / 4;
+  const auto paint = [&](const QRect& place, QChar text, Rgb colour, QPoint tip, QPoint across) {
+    painter.setPen(ToColour(colour));
+    DrawCentred(painter, place, text);
+    if (colour != kHighlightRed) return;
+    // The second cue for readers who cannot tell red from black: an arrow towards the line.
+    const QPoint along = (place.center() - tip).x() == 0 ? QPoint(0, arrow) : QPoint(arrow, 0);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(ToColour(colour));
+    painter.drawPolygon(QPolygon({tip, tip - along - across, tip - along + across}));
+  };
+  for (int line = 0; line < kSide; ++line) {
+    const QRect row = geometry_.RowCaptionRect(line).adjusted(0, 0, -arrow, 0);
+    const QRect column = geometry_.ColumnCaptionRect(line).adjusted(0, 0, 0, -arrow);
+    paint(row, QChar(state_.AxisLetters[line]), form_.LabelRow(line),
+          {row.right() + arrow, row.center().y()}, {0, arrow});
+    paint(column, QChar('1' + line), form_.LabelColumn(line),
+          {column.center().x(), column.bottom() + arrow}, {arrow, 0});
+  }
+}
+
+void BoardPainter::PaintCell(QPainter& painter, int cell) const {
+  const CellLook& look = form_.Cell(cell);
+  const QRect place = geometry_.CellRect(cell);
+  painter.fillRect(place, ToColour(look.PaintedBackground()));
+  PaintMarks(painter, cell);
+  if (look.text == 0) return;
+  QFont font = digitFont_;
+  font.setBold(!IsEntry(form_, state_, cell));
+  painter.setFont(font);
+  painter.setPen(Qt::black);
+  DrawCentred(painter, place, DigitText(look.text));
+}
+
+void BoardPainter::PaintMarks(QPainter& painter, int cell) const {
+  for (int digit = 1; digit <= kSide; ++digit) {
+    // Smoothed edges would leave a ghost of a mark painted in the colour of its ground.
+    if (!IsMarkShown(form_, cell, digit)) continue;
+    const MarkLook& mark = form_.Mark(cell, digit);
+    QFont font = markFont_;
+    font.setBold(mark.bold);
+    painter.setFont(font);
+    painter.setPen(ToColour(mark.colour));
+    DrawCentred(painter, geometry_.MarkRect(cell, digit), DigitText(digit));
+  }
+}
+
+// Thin lines first: where a border and a thin line meet, the border is on top.
+void BoardPainter::PaintLines(QPainter& painter, const QRegion& region) const {
+  const int reach = geometry_.BorderWidth();
+  const QRect near = region.boundingRect().adjusted(-reach, -reach, reach, reach);
+  for (const bool border : {false, true}) {
+    for (int cell = 0; cell < kCellCount; ++cell) {
+      if (near.intersects(geometry_.CellRect(cell))) PaintEdges(painter, cell, border);
+    }
+  }
+}
+
+// The edges of the cell's left and upper side, and of the frame's other two sides.
+void BoardPainter::PaintEdges(QPainter& painter, int cell, bool border) const {
+  const QRect place = geometry_.CellRect(cell);
+  const int width = border ? geometry_.BorderWidth() : geometry_.LineWidth();
+  const int before = border ? width / 2 : 0;
+  const QColor colour = border ? QColor(Qt::black) : kInnerLine;
+  const auto isBorder = [&](bool hasNeighbour, int neighbour) {
+    return !hasNeighbour ||
+           form_.Cell(cell).PaintedBackground() != form_.Cell(neighbour).PaintedBackground();
+  };
+  const int overlap = border ? width : 0;
+  const auto upright = [&](int x) {
+    painter.fillRect(x - before, place.top() - before, width, place.height() + overlap, colour);
+  };
+  const auto level = [&](int y) {
+    painter.fillRect(place.left() - before, y - before, place.width() + overlap, width, colour);
+  };
+  if (isBorder(ColumnOf(cell) > 0, cell - 1) == border) upright(place.left());
+  if (isBorder(RowOf(cell) > 0, cell - kSide) == border) level(place.top());
+  if (border && ColumnOf(cell) == kSide - 1) upright(place.left() + place.width());
+  if (border && RowOf(cell) == kSide - 1) level(place.top() + place.height());
+}
+
+QRegion BoardPainter::RegionOf(const auto& contains) const {
+  QRegion region;
+  for (int cell = 0; cell < kCellCount; ++cell) {
+    if (contains(cell)) region += geometry_.CellRect(cell);
+  }
+  return region;
+}
+
+// Outlines only: a tint would uncover the marks that hide in the colour of their cage. Black and
+// white side by side show on every cage colour.
+void BoardPainter::PaintPointers(QPainter& painter, const BoardPointers& pointers) const {
+  const int line = geometry_.LineWidth();
+  const int inside = (geometry_.BorderWidth() + 1) / 2;
+  const auto outline = [&](const QRegion& cells, int width, const QColor& outer,
+                           const QColor& inner) {
+    FillRegion(painter, Ring(cells, inside, inside + width), outer);
+    FillRegion(painter, Ring(cells, inside + width, inside + width + line), inner);
+  };
+  if (pointers.active) {
+    const int active = *pointers.active;
+    const CellLook& look = form_.Cell(active);
+    outline(RegionOf([&](int cell) { return RowOf(cell) == RowOf(active); }), line, Qt::white,
+            Qt::black);
+    outline(RegionOf([&](int cell) { return ColumnOf(cell) == ColumnOf(active); }), line, Qt::white,
+            Qt::black);
+    if (look.opaque) {
+      outline(RegionOf([&](int cell) {
+                return form_.Cell(cell).PaintedBackground() == look.background;
+              }),
+              2 * line, Qt::white, Qt::black);
+    }
+    outline(geometry_.CellRect(active), 2 * line, Qt::white, Qt::black);
+  }
+  if (pointers.focused) {
+    outline(geometry_.CellRect(*pointers.focused), 3 * line, kFocusRing, Qt::white);
+  }
+}
+
+}  // namespace tessel
