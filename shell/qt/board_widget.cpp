@@ -1,0 +1,231 @@
+#include "shell/qt/board_widget.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QtMath>
+
+#include "shell/qt/board_accessible.h"
+
+namespace tessel {
+
+namespace {
+
+constexpr int kLeastBoard = 240;
+constexpr int kUsualBoard = 560;
+
+struct ButtonName {
+  Qt::MouseButton pressed;
+  MouseButton button;
+};
+constexpr std::array<ButtonName, 3> kButtons{{{Qt::LeftButton, MouseButton::kLeft},
+                                              {Qt::RightButton, MouseButton::kRight},
+                                              {Qt::MiddleButton, MouseButton::kMiddle}}};
+
+std::optional<std::size_t> ButtonIndex(Qt::MouseButton pressed) {
+  for (std::size_t i = 0; i < kButtons.size(); ++i) {
+    if (kButtons[i].pressed == pressed) return i;
+  }
+  return std::nullopt;
+}
+
+struct Step {
+  int rows;
+  int columns;
+};
+
+// How far a key moves the focus; moves beyond the board's edge end at the edge.
+std::optional<Step> StepOf(int key) {
+  switch (key) {
+    case Qt::Key_Left:
+      return Step{0, -1};
+    case Qt::Key_Right:
+      return Step{0, 1};
+    case Qt::Key_Up:
+      return Step{-1, 0};
+    case Qt::Key_Down:
+      return Step{1, 0};
+    case Qt::Key_Home:
+      return Step{0, -kSide};
+    case Qt::Key_End:
+      return Step{0, kSide};
+    case Qt::Key_PageUp:
+      return Step{-kSide, 0};
+    case Qt::Key_PageDown:
+      return Step{kSide, 0};
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
+BoardWidget::BoardWidget(QWidget* parent) : QWidget(parent) {
+  setObjectName("Board");
+  setAccessibleName(tr("Board"));
+  setFocusPolicy(Qt::StrongFocus);
+  setMouseTracking(true);
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  BoardAccessible::Install();
+}
+
+BoardWidget::~BoardWidget() = default;
+
+QSize BoardWidget::sizeHint() const {
+  return {kUsualBoard, kUsualBoard};
+}
+
+QSize BoardWidget::minimumSizeHint() const {
+  return {kLeastBoard, kLeastBoard};
+}
+
+void BoardWidget::SetSource(const Form& form, const GameState& state) {
+  form_ = &form;
+  state_ = &state;
+  update();
+}
+
+BoardGeometry BoardWidget::Geometry() const {
+  const double scale = devicePixelRatioF();
+  return {QSize(qFloor(width() * scale), qFloor(height() * scale)), scale,
+          logicalDpiY() * scale / 72.0};
+}
+
+// At fractional scales the widget's corner may lie inside a device pixel; the board starts at the
+// next whole one.
+QPointF BoardWidget::PixelShift() const {
+  const QPointF corner = QPointF(mapTo(window(), QPoint(0, 0))) * devicePixelRatioF();
+  return {qCeil(corner.x()) - corner.x(), qCeil(corner.y()) - corner.y()};
+}
+
+QRectF BoardWidget::CellRect(int cell) const {
+  const QRectF place = QRectF(Geometry().CellRect(cell)).translated(PixelShift());
+  const double scale = devicePixelRatioF();
+  return {place.topLeft() / scale, place.size() / scale};
+}
+
+std::optional<CellPoint> BoardWidget::PointAt(QPointF position) const {
+  return Geometry().At(position * devicePixelRatioF() - PixelShift());
+}
+
+void BoardWidget::UpdateCell(int cell) {
+  const int border = qCeil(Geometry().BorderWidth() / devicePixelRatioF());
+  update(CellRect(cell).toAlignedRect().adjusted(-border, -border, border, border));
+  BoardAccessible::NotifyCell(*this, cell);
+}
+
+void BoardWidget::UpdateCaptions() {
+  update();
+}
+
+void BoardWidget::paintEvent(QPaintEvent* event) {
+  if (form_ == nullptr) return;
+  QPainter painter(this);
+  const double scale = devicePixelRatioF();
+  const QPointF corner = painter.deviceTransform().map(QPointF(0, 0));
+  painter.translate((qCeil(corner.x()) - corner.x()) / scale,
+                    (qCeil(corner.y()) - corner.y()) / scale);
+  painter.scale(1 / scale, 1 / scale);
+  QRegion region;
+  for (const QRect& part : event->region()) {
+    region += QRectF(QPointF(part.topLeft()) * scale, QSizeF(part.size()) * scale).toAlignedRect();
+  }
+  BoardPointers pointers;
+  if (hasFocus()) pointers.active = pointers.focused = focusedCell_;
+  if (pointedCell_) pointers.active = pointedCell_;
+  const BoardGeometry geometry = Geometry();
+  BoardPainter(*form_, *state_, geometry, font()).Paint(painter, region, pointers);
+}
+
+void BoardWidget::mousePressEvent(QMouseEvent* event) {
+  const auto index = ButtonIndex(event->button());
+  if (!index) return;
+  const auto point = PointAt(event->position());
+  pressedCell_[*index] = point ? std::optional(point->cell) : std::nullopt;
+  if (point) FocusCell(point->cell);
+}
+
+// Press and release must meet in one cell. Dragging off it takes the press back, as on every
+// button; the digit is chosen by the place of the release.
+void BoardWidget::mouseReleaseEvent(QMouseEvent* event) {
+  const auto index = ButtonIndex(event->button());
+  if (!index) return;
+  const auto pressed = std::exchange(pressedCell_[*index], std::nullopt);
+  const auto point = PointAt(event->position());
+  if (!pressed || !point || point->cell != *pressed) return;
+  emit CellReleased(point->cell, kButtons[*index].button, point->x, point->y);
+}
+
+void BoardWidget::mouseMoveEvent(QMouseEvent* event) {
+  const auto point = PointAt(event->position());
+  PointAtCell(point ? std::optional(point->cell) : std::nullopt);
+}
+
+void BoardWidget::leaveEvent(QEvent*) {
+  PointAtCell(std::nullopt);
+}
+
+void BoardWidget::focusInEvent(QFocusEvent*) {
+  update();
+  BoardAccessible::NotifyFocus(*this);
+}
+
+void BoardWidget::focusOutEvent(QFocusEvent*) {
+  update();
+}
+
+void BoardWidget::PointAtCell(std::optional<int> cell) {
+  if (cell == pointedCell_) return;
+  pointedCell_ = cell;
+  update();
+}
+
+void BoardWidget::FocusCell(int cell) {
+  if (cell == focusedCell_) return;
+  focusedCell_ = cell;
+  update();
+  if (hasFocus()) BoardAccessible::NotifyFocus(*this);
+}
+
+void BoardWidget::keyPressEvent(QKeyEvent* event) {
+  if (!MoveFocus(event->key()) && !ActOnKey(*event)) QWidget::keyPressEvent(event);
+}
+
+bool BoardWidget::MoveFocus(int key) {
+  const auto step = StepOf(key);
+  if (!step) return false;
+  PointAtCell(std::nullopt);
+  FocusCell(CellAt(std::clamp(RowOf(focusedCell_) + step->rows, 0, kSide - 1),
+                   std::clamp(ColumnOf(focusedCell_) + step->columns, 0, kSide - 1)));
+  return true;
+}
+
+// The number pad's 0 and point are Insert and Delete, whatever NumLock says.
+bool BoardWidget::ActOnKey(const QKeyEvent& event) {
+  const int key = event.key();
+  const bool keypad = event.modifiers().testFlag(Qt::KeypadModifier);
+  const bool isDelete = key == Qt::Key_Delete || key == Qt::Key_Backspace ||
+                        (keypad && (key == Qt::Key_Period || key == Qt::Key_Comma));
+  const bool isInsert = key == Qt::Key_Insert || (keypad && key == Qt::Key_0);
+  const bool isDigit = key >= Qt::Key_1 && key <= Qt::Key_9;
+  if (event.modifiers().testAnyFlags(Qt::AltModifier | Qt::MetaModifier)) return false;
+  if (!isDelete && !isInsert && !isDigit) return false;
+  if (event.isAutoRepeat()) return true;
+  PointAtCell(std::nullopt);
+  if (isDelete) {
+    const int digit = form_ == nullptr ? 0 : form_->Cell(focusedCell_).text;
+    if (digit != 0) ReleaseOnMark(digit, MouseButton::kRight);
+  } else if (isInsert) {
+    ReleaseOnMark(5, MouseButton::kMiddle);
+  } else {
+    const bool control = event.modifiers().testFlag(Qt::ControlModifier);
+    ReleaseOnMark(key - Qt::Key_0, control ? MouseButton::kRight : MouseButton::kLeft);
+  }
+  return true;
+}
+
+void BoardWidget::ReleaseOnMark(int digit, MouseButton button) {
+  emit CellReleased(focusedCell_, button, kMarkUnits * ((digit - 1) % 3 + 0.5),
+                    kMarkUnits * ((digit - 1) / 3 + 0.5));
+}
+
+}  // namespace tessel

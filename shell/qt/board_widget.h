@@ -1,0 +1,71 @@
+// The board: one painted widget with 81 cells.
+#pragma once
+
+#include <QWidget>
+#include <array>
+#include <optional>
+
+#include "core/form.h"
+#include "core/game_state.h"
+#include "shell/qt/board_geometry.h"
+#include "shell/qt/board_painter.h"
+#include "shell/tessel_main.h"
+
+namespace tessel {
+
+class BoardWidget final : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit BoardWidget(QWidget* parent = nullptr);
+  ~BoardWidget() override;
+
+  // What to paint; both must live as long as the widget. Blank before.
+  void SetSource(const Form& form, const GameState& state);
+  const Form* Source() const { return form_; }
+  const GameState* State() const { return state_; }
+
+  void UpdateCell(int cell);
+  void UpdateCaptions();
+
+  BoardGeometry Geometry() const;
+  // Where the cell lies, in the widget's own coordinates.
+  QRectF CellRect(int cell) const;
+
+  int FocusedCell() const { return focusedCell_; }
+  void FocusCell(int cell);
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+
+ signals:
+  // A mouse button released over the cell in which it was pressed, or a key that stands for it;
+  // (x, y) in units from the cell's corner.
+  void CellReleased(int cell, tessel::MouseButton button, double x, double y);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void leaveEvent(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+
+ private:
+  std::optional<CellPoint> PointAt(QPointF position) const;
+  QPointF PixelShift() const;
+  void PointAtCell(std::optional<int> cell);
+  bool MoveFocus(int key);
+  bool ActOnKey(const QKeyEvent& event);
+  void ReleaseOnMark(int digit, MouseButton button);
+
+  const Form* form_ = nullptr;
+  const GameState* state_ = nullptr;
+  int focusedCell_ = kCentreCell;
+  std::optional<int> pointedCell_;                 // by the mouse, until a key moves the focus
+  std::array<std::optional<int>, 3> pressedCell_;  // left, right, middle
+};
+
+}  // namespace tessel
