@@ -1,0 +1,269 @@
+#include "shell/qt/control_panel.h"
+
+#include <QCheckBox>
+#include <QEvent>
+#include <QFrame>
+#include <QGridLayout>
+#include <QShortcut>
+#include <algorithm>
+#include <vector>
+
+namespace tessel {
+
+namespace {
+
+struct ButtonPlan {
+  Button button;
+  const char* name;
+  const char* keys;
+  const char* tip;
+};
+constexpr ButtonPlan kButtonPlans[] = {
+    {Button::CommandSaw, "CommandSaw", "Alt+S", "Saw the board into nine new cages"},
+    {Button::CommandGo, "CommandGo", "Alt+F", "Fill the cages with a solution, or stop filling"},
+    {Button::CommandConceal, "CommandConceal", "Alt+C",
+     "Conceal cells and save the puzzle, or stop concealing"},
+    {Button::CommandSolve, "CommandSolve", "Alt+L", "Play the puzzle"},
+    {Button::CommandExit, "CommandExit", "Alt+X", "Leave the program"},
+    {Button::CommandHint, "CommandHint", "Alt+H", "Tell the next logical step"},
+    {Button::CommandQuit, "CommandQuit", "Alt+Q", "Stop playing this puzzle"},
+    {Button::CommandRestart, "CommandRestart", "Alt+R", "Begin this puzzle again"},
+    {Button::CommandSolution, "CommandSolution", "Alt+N", "Show the solution"},
+};
+
+struct BoxPlan {
+  CheckBox box;
+  const char* name;
+  const char* caption;
+  const char* keys;
+  const char* tip;
+};
+constexpr BoxPlan kBoxPlans[] = {
+    {CheckBox::Rotational, "Rotational", "Saw 180° Rotational", "Alt+O",
+     "Cages that look the same after half a turn"},
+    {CheckBox::MakeRegular, "MakeRegular", "Make regular Sudoku", "Alt+M",
+     "The nine 3×3 boxes instead of sawn cages"},
+    {CheckBox::ConcealRotational, "ConcealRotational", "Conceal 180° Rotational", "Alt+T",
+     "Conceal cells in pairs that face each other"},
+    {CheckBox::CheckVisualize, "CheckVisualize", "Visualize progress", "Alt+V",
+     "Leave this unchecked for faster execution"},
+    {CheckBox::CheckPencilmarks, "CheckPencilmarks", "Update Pencilmarks", "Alt+U",
+     "Take a placed digit out of the marks of its row, column and cage"},
+};
+
+// About as long as a hint can become.
+constexpr char kLongHint[] =
+    "The cells in column 8 containing candidate 8 all belong to the same cage, therefore that "
+    "candidate can be removed from the other cells of that cage";
+constexpr int kHintPadding = 6;
+constexpr int kSpacing = 6;
+
+QString WithKeys(const char* tip, const char* keys) {
+  return QString::fromUtf8(tip) + "\n" + QKeySequence(keys).toString(QKeySequence::NativeText);
+}
+
+// A shortcut object and not the button's own: that one is lost with every change of caption.
+void ClickOn(QAbstractButton* control, const char* keys) {
+  auto* shortcut = new QShortcut(QKeySequence(keys), control->window());
+  shortcut->setAutoRepeat(false);
+  QObject::connect(shortcut, &QShortcut::activated, control, &QAbstractButton::click);
+}
+
+// A control's place in a grid, from (row, column) over so many columns.
+struct Place {
+  QWidget* widget;
+  int row;
+  int column;
+  int columns = 1;
+  int rows = 1;
+};
+
+QGridLayout* LayOut(QWidget* parent, const std::vector<Place>& places) {
+  delete parent->layout();
+  auto* grid = new QGridLayout(parent);
+  grid->setSpacing(kSpacing);
+  for (const Place& place : places) {
+    grid->addWidget(place.widget, place.row, place.column, place.rows, place.columns);
+  }
+  return grid;
+}
+
+int HintHeight(const QLabel& label, int width) {
+  const QRect room(0, 0, width - 2 * kHintPadding, QWIDGETSIZE_MAX);
+  return label.fontMetrics().boundingRect(room, Qt::TextWordWrap, kLongHint).height() +
+         3 * kHintPadding;
+}
+
+}  // namespace
+
+ControlPanel::ControlPanel(QWidget* parent) : QWidget(parent) {
+  solveButtons_ = new QFrame(this);
+  solveButtons_->setObjectName("SolveButtons");
+  solveButtons_->setAccessibleName("Solving");
+  solveButtons_->setFrameShape(QFrame::StyledPanel);
+  QSizePolicy keepsPlace = solveButtons_->sizePolicy();
+  keepsPlace.setRetainSizeWhenHidden(true);
+  solveButtons_->setSizePolicy(keepsPlace);
+  textHint_ = new QLabel(solveButtons_);
+  textHint_->setObjectName("TextHint");
+  textHint_->setTextFormat(Qt::PlainText);
+  textHint_->setWordWrap(true);
+  textHint_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  textHint_->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+  textHint_->setBackgroundRole(QPalette::Base);
+  textHint_->setForegroundRole(QPalette::Text);
+  textHint_->setAutoFillBackground(true);
+  textHint_->setMargin(kHintPadding);
+  MakeButtons();
+  MakeBoxes();
+  MakeHelp();
+  Measure();
+}
+
+void ControlPanel::MakeButtons() {
+  for (const ButtonPlan& plan : kButtonPlans) {
+    QWidget* parent = IsSolveButton(plan.button) ? static_cast<QWidget*>(solveButtons_) : this;
+    auto* button = new QPushButton(parent);
+    button->setObjectName(plan.name);
+    button->setToolTip(WithKeys(plan.tip, plan.keys));
+    button->setAutoDefault(true);
+    connect(button, &QPushButton::clicked, this, [this, plan] { emit ButtonClicked(plan.button); });
+    ClickOn(button, plan.keys);
+    buttons_[tessel::IndexOf(plan.button)] = button;
+  }
+}
+
+void ControlPanel::MakeBoxes() {
+  for (const BoxPlan& plan : kBoxPlans) {
+    QWidget* parent = IsSolveButton(plan.box) ? static_cast<QWidget*>(solveButtons_) : this;
+    auto* box = new QCheckBox(QString::fromUtf8(plan.caption), parent);
+    box->setObjectName(plan.name);
+    box->setToolTip(WithKeys(plan.tip, plan.keys));
+    connect(box, &QCheckBox::clicked, this, [this, plan] { emit BoxClicked(plan.box); });
+    ClickOn(box, plan.keys);
+    boxes_[tessel::IndexOf(plan.box)] = box;
+  }
+}
+
+void ControlPanel::MakeHelp() {
+  help_ = new QPushButton("Help", this);
+  help_->setObjectName("Help");
+  help_->setToolTip(WithKeys("How to make and play a puzzle", "F1"));
+  help_->setAutoDefault(true);
+  connect(help_, &QPushButton::clicked, this, &ControlPanel::HelpClicked);
+  ClickOn(help_, "F1");
+}
+
+QList<QWidget*> ControlPanel::GenerationControls() const {
+  return {Of(Button::CommandSaw),          Of(CheckBox::Rotational),     Of(CheckBox::MakeRegular),
+          Of(Button::CommandGo),           Of(CheckBox::CheckVisualize), Of(Button::CommandConceal),
+          Of(CheckBox::ConcealRotational), Of(Button::CommandSolve)};
+}
+
+QList<QWidget*> ControlPanel::SolveControls() const {
+  return {Of(Button::CommandHint),     Of(CheckBox::CheckPencilmarks), Of(Button::CommandRestart),
+          Of(Button::CommandSolution), Of(Button::CommandQuit),        help_,
+          Of(Button::CommandExit)};
+}
+
+void ControlPanel::Show(const Form& form, std::optional<Button> running) {
+  for (std::size_t i = 0; i < kButtonCount; ++i) {
+    const auto button = static_cast<Button>(i);
+    if (Of(button) == nullptr) continue;
+    Of(button)->setText(QString::fromStdString(form.Of(button).caption));
+    Of(button)->setEnabled(form.Of(button).enabled);
+    MarkRunning(button, button == running);
+  }
+  for (std::size_t i = 0; i < kCheckBoxCount; ++i) {
+    const auto box = static_cast<CheckBox>(i);
+    Of(box)->setChecked(form.Checked(box));
+  }
+  textHint_->setText(QString::fromStdString(form.TextHint()));
+  textHint_->setAccessibleName("Hint text: " + textHint_->text());
+  solveButtons_->setVisible(form.SolveButtonsVisible());
+  solveButtons_->setEnabled(form.SolveButtonsEnabled());
+}
+
+void ControlPanel::MarkRunning(Button button, bool running) {
+  if (running == (running_ == button)) return;
+  running_ = running ? std::optional(button) : std::nullopt;
+  QPalette colours;
+  if (running) {
+    colours.setColor(QPalette::Button, palette().color(QPalette::Highlight));
+    colours.setColor(QPalette::ButtonText, palette().color(QPalette::HighlightedText));
+  }
+  Of(button)->setPalette(colours);
+}
+
+void ControlPanel::Measure() {
+  for (const Arrangement arrangement : {Arrangement::kBelow, Arrangement::kBeside}) {
+    arrangement_ = arrangement == Arrangement::kBelow ? Arrangement::kBeside : Arrangement::kBelow;
+    Arrange(arrangement);
+    room_[IndexOf(arrangement)] = layout()->totalSizeHint();
+  }
+}
+
+void ControlPanel::Arrange(Arrangement arrangement) {
+  if (arrangement == arrangement_ && layout() != nullptr) return;
+  arrangement_ = arrangement;
+  const auto button = [this](Button which) { return Of(which); };
+  const auto box = [this](CheckBox which) { return Of(which); };
+  QPushButton* const hint = button(Button::CommandHint);
+  QPushButton* const restart = button(Button::CommandRestart);
+  QPushButton* const solution = button(Button::CommandSolution);
+  QPushButton* const quit = button(Button::CommandQuit);
+  QCheckBox* const update = box(CheckBox::CheckPencilmarks);
+  if (arrangement == Arrangement::kBeside) {
+    LayOut(solveButtons_, {{hint, 0, 0, 2},
+                           {textHint_, 1, 0, 2},
+                           {update, 2, 0, 2},
+                           {restart, 3, 0},
+                           {solution, 3, 1},
+                           {quit, 4, 0, 2}});
+    QGridLayout* grid = LayOut(this, {{button(Button::CommandSaw), 0, 0},
+                                      {box(CheckBox::Rotational), 0, 1},
+                                      {box(CheckBox::MakeRegular), 1, 1},
+                                      {button(Button::CommandGo), 2, 0},
+                                      {box(CheckBox::CheckVisualize), 2, 1},
+                                      {button(Button::CommandConceal), 3, 0},
+                                      {box(CheckBox::ConcealRotational), 3, 1},
+                                      {button(Button::CommandSolve), 4, 0},
+                                      {solveButtons_, 5, 0, 2},
+                                      {help_, 7, 0},
+                                      {button(Button::CommandExit), 7, 1}});
+    grid->setRowStretch(6, 1);
+    grid->setColumnStretch(1, 1);
+    grid->setContentsMargins(0, 0, 0, 0);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+  } else {
+    LayOut(solveButtons_, {{hint, 0, 0},
+                           {restart, 0, 1},
+                           {solution, 1, 0},
+                           {quit, 1, 1},
+                           {update, 2, 0, 2},
+                           {textHint_, 0, 2, 1, 3}})
+        ->setColumnStretch(2, 1);
+    QGridLayout* grid = LayOut(this, {{button(Button::CommandSaw), 0, 0},
+                                      {button(Button::CommandGo), 0, 1},
+                                      {button(Button::CommandConceal), 0, 2},
+                                      {button(Button::CommandSolve), 0, 3},
+                                      {help_, 0, 4},
+                                      {button(Button::CommandExit), 0, 5},
+                                      {box(CheckBox::Rotational), 1, 0, 3},
+                                      {box(CheckBox::CheckVisualize), 1, 3, 3},
+                                      {box(CheckBox::MakeRegular), 2, 0, 3},
+                                      {box(CheckBox::ConcealRotational), 2, 3, 3},
+                                      {solveButtons_, 3, 0, 6}});
+    grid->setContentsMargins(0, 0, 0, 0);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+  }
+  textHint_->setFixedHeight(
+      HintHeight(*textHint_, arrangement == Arrangement::kBeside ? 240 : 270));
+}
+
+void ControlPanel::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) Measure();
+  QWidget::changeEvent(event);
+}
+
+}  // namespace tessel

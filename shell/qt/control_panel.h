@@ -1,0 +1,68 @@
+// The buttons, boxes and the hint text beside or below the board.
+#pragma once
+
+#include <QLabel>
+#include <QPushButton>
+#include <QWidget>
+#include <array>
+#include <optional>
+
+#include "core/form.h"
+
+class QCheckBox;
+class QFrame;
+
+namespace tessel {
+
+class ControlPanel final : public QWidget {
+  Q_OBJECT
+
+ public:
+  // The panel stands at the board's right or lies below it.
+  enum class Arrangement { kBeside, kBelow };
+
+  explicit ControlPanel(QWidget* parent = nullptr);
+
+  // Shows what the form says. `running` is the button whose command is at work.
+  void Show(const Form& form, std::optional<Button> running);
+
+  void Arrange(Arrangement arrangement);
+  // The room that the panel takes in that arrangement, whichever it has now.
+  QSize RoomFor(Arrangement arrangement) const { return room_[IndexOf(arrangement)]; }
+
+  // Null for the spare button, which is not shown.
+  QPushButton* Of(Button button) const { return buttons_[tessel::IndexOf(button)]; }
+  QCheckBox* Of(CheckBox box) const { return boxes_[tessel::IndexOf(box)]; }
+  // The panel's controls in the order of the workflow; the board stands before the frame's.
+  QList<QWidget*> GenerationControls() const;
+  QList<QWidget*> SolveControls() const;
+
+ signals:
+  void ButtonClicked(tessel::Button button);
+  void BoxClicked(tessel::CheckBox box);
+  void HelpClicked();
+
+ protected:
+  void changeEvent(QEvent* event) override;
+
+ private:
+  static std::size_t IndexOf(Arrangement arrangement) {
+    return static_cast<std::size_t>(arrangement);
+  }
+  void MakeButtons();
+  void MakeBoxes();
+  void MakeHelp();
+  void Measure();
+  void MarkRunning(Button button, bool running);
+
+  std::array<QPushButton*, kButtonCount> buttons_{};
+  std::array<QCheckBox*, kCheckBoxCount> boxes_{};
+  QPushButton* help_ = nullptr;
+  QFrame* solveButtons_ = nullptr;
+  QLabel* textHint_ = nullptr;
+  Arrangement arrangement_ = Arrangement::kBeside;
+  std::array<QSize, 2> room_;
+  std::optional<Button> running_;
+};
+
+}  // namespace tessel

@@ -1,0 +1,68 @@
+#include "shell/qt/help_dialog.h"
+
+#include <QDialogButtonBox>
+#include <QTextBrowser>
+#include <QVBoxLayout>
+
+namespace tessel {
+
+namespace {
+
+constexpr char kPage[] = R"(
+<h2>Make a puzzle</h2>
+<ol>
+<li><b>Saw</b> cuts the board into nine cages of nine cells. Tick <i>Saw 180° Rotational</i> for cages
+that look the same after half a turn, or <i>Make regular Sudoku</i> for the nine 3×3 boxes.</li>
+<li><b>Fill</b> finds a solution: every digit once in each row, column and cage.</li>
+<li><b>Conceal</b> hides cells as long as one solution remains, in facing pairs with <i>Conceal 180°
+Rotational</i>, and saves the puzzle beside the program.</li>
+<li><b>Solve</b> lets you play it.</li>
+</ol>
+<p><i>Visualize progress</i> shows the work step by step. The button of a running Fill or Conceal
+reads <b>Stop</b>.</p>
+<h2>Play</h2>
+<p>An empty cell shows its marks, the digits that are still possible, like a keypad: 1 2 3 above,
+7 8 9 below. Where you click in the cell chooses the digit.</p>
+<table border="1" cellspacing="0" cellpadding="4">
+<tr><th align="left">To</th><th align="left">Mouse</th><th align="left">Keyboard</th></tr>
+<tr><td>choose a cell</td><td>point at it</td><td>arrows, Home, End, Page Up, Page Down</td></tr>
+<tr><td>place a digit</td><td>left click on its mark</td><td>the digit</td></tr>
+<tr><td>take the digit out</td><td>right click</td><td>Delete or Backspace</td></tr>
+<tr><td>remove or add a mark</td><td>right click on its place</td><td>Ctrl + digit</td></tr>
+<tr><td>empty the cell, show all nine marks</td><td>middle click</td><td>Insert</td></tr>
+</table>
+<p>The number pad works too; its 0 is Insert and its point is Delete. Drag off the cell before you
+let go to take a click back. Tab moves between the controls; every button and box names its shortcut
+in its tooltip.</p>
+<p><b>Hint</b> names the next logical step and marks its rows and columns red, with an arrow. It never
+changes the board. <b>Restart</b> begins the puzzle again, <b>Solution</b> shows it solved.</p>
+<h2>Rules that surprise</h2>
+<ul>
+<li>Only a digit whose mark is shown can be placed. Placing it removes it from the marks of its row,
+column and cage; taking it out again does <b>not</b> give them back. Add a mark with the right button,
+or all nine with the middle one.</li>
+<li>A full board is applauded, <b>right or wrong</b>, and then closed. Only Restart opens it again.</li>
+<li>With <i>Update Pencilmarks</i> unticked every empty cell shows all nine marks, any digit can be
+placed, and the right button only takes digits out. The hints then come from the marks as they were
+kept until now.</li>
+</ul>
+)";
+
+}  // namespace
+
+HelpDialog::HelpDialog(QWidget* parent) : QDialog(parent) {
+  setObjectName("HelpDialog");
+  setWindowTitle("Tessel Sudoku - Help");
+  auto* page = new QTextBrowser(this);
+  page->setObjectName("HelpPage");
+  page->setAccessibleName("Help");
+  page->setHtml(QString::fromUtf8(kPage));
+  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
+  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+  auto* column = new QVBoxLayout(this);
+  column->addWidget(page);
+  column->addWidget(buttons);
+  resize(620, 640);
+}
+
+}  // namespace tessel

@@ -1,0 +1,198 @@
+#include "shell/qt/tessel_window.h"
+
+#include <QApplication>
+#include <QBoxLayout>
+#include <QCloseEvent>
+#include <QMessageBox>
+#include <thread>
+
+#include "shell/qt/app_icon.h"
+#include "shell/qt/help_dialog.h"
+
+namespace tessel {
+
+namespace {
+
+constexpr QSize kLeastWindow(480, 520);
+constexpr QSize kUsualWindow(900, 640);
+constexpr int kMargin = 8;
+
+// The least time that a step of visualised work stays on the screen; 250 steps a second are fast
+// and can still be followed.
+constexpr std::chrono::milliseconds kFrameTime{4};
+
+}  // namespace
+
+TesselWindow::TesselWindow()
+    : board_(new BoardWidget(this)), panel_(new ControlPanel(this)), notice_(new QLabel(this)) {
+  setWindowIcon(AppIcon());
+  setMinimumSize(kLeastWindow);
+  // Styles that show the focus only after a Tab key shall always show it.
+  setAttribute(Qt::WA_KeyboardFocusChange);
+  notice_->setObjectName("Notice");
+  notice_->setTextFormat(Qt::PlainText);
+  notice_->setWordWrap(true);
+  BuildLayout();
+  connect(panel_, &ControlPanel::ButtonClicked, this, &TesselWindow::Press);
+  connect(panel_, &ControlPanel::BoxClicked, this, [this](CheckBox box) {
+    logic_->Toggle(box);
+    changedControls_ = true;  // the box toggled itself, whatever the logic made of it
+    Sync();
+  });
+  connect(panel_, &ControlPanel::HelpClicked, this, &TesselWindow::OpenHelp);
+  connect(board_, &BoardWidget::CellReleased, this,
+          [this](int cell, MouseButton button, double x, double y) {
+            logic_->Grid_MouseUp(cell, button, 0, x, y);
+            Sync();
+          });
+}
+
+void TesselWindow::BuildLayout() {
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  column->setSpacing(kMargin);
+  boardAndPanel_ = new QBoxLayout(QBoxLayout::LeftToRight);
+  boardAndPanel_->setSpacing(kMargin);
+  boardAndPanel_->addWidget(board_, 1);
+  boardAndPanel_->addWidget(panel_);
+  column->addLayout(boardAndPanel_, 1);
+  column->addWidget(notice_);
+  const QList<QWidget*> order = panel_->GenerationControls() << board_ << panel_->SolveControls();
+  for (qsizetype i = 1; i < order.size(); ++i) setTabOrder(order[i - 1], order[i]);
+  resize(kUsualWindow);
+}
+
+void TesselWindow::Attach(Tessel_Main& logic) {
+  logic_ = &logic;
+  board_->SetSource(logic.form(), logic.state());
+  changedControls_ = true;
+  Sync();
+  panel_->Of(Button::CommandSaw)->setFocus(Qt::TabFocusReason);
+}
+
+void TesselWindow::Show() {
+  show();
+}
+
+std::int32_t TesselWindow::WindowHandle() {
+  return static_cast<std::int32_t>(winId());
+}
+
+void TesselWindow::PumpEvents() {
+  const bool drawn = changedCells_.any() && logic_->form().Checked(CheckBox::CheckVisualize);
+  if (drawn) pump_.WantFrame();
+  if (!pump_.Due()) return;
+  const auto frameEnd = EventPump::Clock::now() + kFrameTime;
+  Sync();
+  QCoreApplication::processEvents();
+  if (drawn) std::this_thread::sleep_until(frameEnd);
+  pump_.Done();
+}
+
+bool TesselWindow::AskYesNo(const std::string& question, const std::string& title) {
+  Sync();
+  QMessageBox box(QMessageBox::Question, QString::fromStdString(title),
+                  QString::fromStdString(question), QMessageBox::Yes | QMessageBox::No, this);
+  box.setTextFormat(Qt::PlainText);
+  box.setDefaultButton(QMessageBox::No);
+  return box.exec() == QMessageBox::Yes;
+}
+
+void TesselWindow::Beep() {
+  QApplication::beep();
+}
+
+// Not quit(): that would ask the window to close, and the window would ask the player again.
+void TesselWindow::EndProgram() {
+  QCoreApplication::exit(0);
+}
+
+void TesselWindow::FormChanged(FormPart part, int index) {
+  switch (part) {
+    case FormPart::kCell:
+      changedCells_.set(static_cast<std::size_t>(index));
+      return;
+    case FormPart::kRowCaption:
+    case FormPart::kColumnCaption:
+      changedCaptions_ = true;
+      return;
+    case FormPart::kButton:
+    case FormPart::kCheckBox:
+    case FormPart::kWindowCaption:
+    case FormPart::kSolveButtons:
+    case FormPart::kHintText:
+    case FormPart::kText1:
+    case FormPart::kNotice:
+      changedControls_ = true;
+      return;
+  }
+}
+
+void TesselWindow::Sync() {
+  for (int cell = 0; cell < kCellCount; ++cell) {
+    if (changedCells_.test(static_cast<std::size_t>(cell))) board_->UpdateCell(cell);
+  }
+  changedCells_.reset();
+  if (std::exchange(changedCaptions_, false)) board_->UpdateCaptions();
+  if (std::exchange(changedControls_, false)) SyncControls();
+}
+
+// A control that is about to be disabled hands the focus to the board before Qt gives it to a
+// neighbour that the player did not choose.
+void TesselWindow::SyncControls() {
+  const Form& form = logic_->form();
+  QWidget* const focused = focusWidget();
+  panel_->Show(form, running_);
+  if (focused != nullptr && focused != focusWidget()) board_->setFocus();
+  setWindowTitle(QString::fromStdString(form.Caption()));
+  notice_->setText(QString::fromStdString(form.Notice()));
+}
+
+void TesselWindow::Press(Button button) {
+  QPushButton* const pressed = panel_->Of(button);
+  const bool hadFocus = pressed->hasFocus();
+  const bool nested = running_.has_value();
+  if (!nested && button <= Button::CommandConceal) {
+    running_ = button;
+    changedControls_ = true;
+  }
+  const bool wasSolving = logic_->form().SolveButtonsVisible();
+  logic_->Click(button);
+  if (!nested) running_.reset();
+  changedControls_ = true;
+  Sync();
+  if (hadFocus && board_->hasFocus() && pressed->isEnabled() && pressed->isVisible()) {
+    pressed->setFocus(Qt::TabFocusReason);
+  }
+  if (!wasSolving && logic_->form().SolveButtonsVisible()) board_->setFocus(Qt::TabFocusReason);
+}
+
+void TesselWindow::closeEvent(QCloseEvent* event) {
+  event->setAccepted(logic_ == nullptr || logic_->Form_QueryUnload());
+}
+
+void TesselWindow::resizeEvent(QResizeEvent* event) {
+  ArrangePanel();
+  QWidget::resizeEvent(event);
+}
+
+// Whichever arrangement leaves the larger board.
+void TesselWindow::ArrangePanel() {
+  using Arrangement = ControlPanel::Arrangement;
+  const QSize beside = size() - QSize(panel_->RoomFor(Arrangement::kBeside).width(), 0);
+  const QSize below = size() - QSize(0, panel_->RoomFor(Arrangement::kBelow).height());
+  const bool isBeside =
+      std::min(beside.width(), beside.height()) >= std::min(below.width(), below.height());
+  panel_->Arrange(isBeside ? Arrangement::kBeside : Arrangement::kBelow);
+  boardAndPanel_->setDirection(isBeside ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+  notice_->setFixedHeight((isBeside ? 1 : 2) * notice_->fontMetrics().lineSpacing());
+}
+
+void TesselWindow::OpenHelp() {
+  if (help_ == nullptr) help_ = new HelpDialog(this);
+  help_->show();
+  help_->raise();
+  help_->activateWindow();
+}
+
+}  // namespace tessel

@@ -1,0 +1,65 @@
+// The main window: the logic's view, made of Qt widgets.
+#pragma once
+
+#include <QWidget>
+#include <bitset>
+#include <optional>
+
+#include "core/view.h"
+#include "shell/qt/board_widget.h"
+#include "shell/qt/control_panel.h"
+#include "shell/qt/event_pump.h"
+#include "shell/tessel_main.h"
+
+class QBoxLayout;
+
+namespace tessel {
+
+class HelpDialog;
+
+class TesselWindow final : public QWidget, public View {
+  Q_OBJECT
+
+ public:
+  TesselWindow();
+
+  // Once, before the logic's Form_Load; the logic must live as long as the window gets events.
+  void Attach(Tessel_Main& logic);
+
+  void Show() override;
+  std::int32_t WindowHandle() override;
+  void PumpEvents() override;
+  bool AskYesNo(const std::string& question, const std::string& title) override;
+  void Beep() override;
+  void EndProgram() override;
+  void FormChanged(FormPart part, int index) override;
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  void BuildLayout();
+  void Press(Button button);
+  void Sync();
+  void SyncControls();
+  void ArrangePanel();
+  void OpenHelp();
+
+  Tessel_Main* logic_ = nullptr;
+  BoardWidget* board_;
+  ControlPanel* panel_;
+  QLabel* notice_;
+  QBoxLayout* boardAndPanel_ = nullptr;
+  HelpDialog* help_ = nullptr;
+
+  // What has changed in the form since the last Sync.
+  std::bitset<kCellCount> changedCells_;
+  bool changedCaptions_ = false;
+  bool changedControls_ = false;
+
+  std::optional<Button> running_;
+  EventPump pump_;
+};
+
+}  // namespace tessel
