@@ -1,0 +1,49 @@
+#include <QApplication>
+#include <QFile>
+#include <clocale>
+#include <cstdio>
+#include <cstdlib>
+
+#include "core/random_source.h"
+#include "shell/qt/system_clock.h"
+#include "shell/qt/tessel_window.h"
+
+namespace {
+
+// Until there is a player that sounds.
+class SilentPlayer final : public tessel::SoundPlayer {
+ public:
+  void SetOwner(std::int32_t) override {}
+  int Status() override { return 0; }
+  std::int32_t Load(const std::string&) override { return -1; }
+  void Play(std::int32_t) override {}
+};
+
+// Without a display Qt explains itself at length and aborts; one line and an exit status do better.
+void SayThatThereIsNoDisplay(QtMsgType type, const QMessageLogContext&, const QString&) {
+  if (type != QtFatalMsg) return;
+  std::fputs("tessel-sudoku: cannot open a window: there is no display, or no access to it\n",
+             stderr);
+  std::_Exit(EXIT_FAILURE);
+}
+
+}  // namespace
+
+int main(int, char** argv) {
+  int argumentCount = 1;  // the program has no command line, and Qt shall not read one either
+  const QtMessageHandler usual = qInstallMessageHandler(SayThatThereIsNoDisplay);
+  QApplication application(argumentCount, argv);
+  qInstallMessageHandler(usual);
+  std::setlocale(LC_NUMERIC, "C");  // Qt took over the user's; times are written with a point
+  QApplication::setApplicationName("tessel-sudoku");
+
+  tessel::TesselWindow window;
+  SilentPlayer player;
+  tessel::SystemClock clock;
+  tessel::SeededRandom random;
+  const QByteArray folder = QFile::encodeName(QCoreApplication::applicationDirPath());
+  tessel::Tessel_Main logic(window, player, clock, random, folder.toStdString());
+  window.Attach(logic);
+  logic.Form_Load();
+  return QApplication::exec();
+}
