@@ -1,0 +1,50 @@
+#include "tests/oracle/search/samples.h"
+
+#include <numeric>
+#include <utility>
+
+namespace tessel::oracle {
+
+Grid DrawOrder(RandomSource& random) {
+  Grid order;
+  std::iota(order.begin(), order.end(), std::int16_t{0});
+  for (int swaps = 0; swaps < 500; ++swaps) {
+    const int a = DrawIndex(random, 81);
+    const int b = DrawIndex(random, 81);
+    std::swap(order[a], order[b]);
+  }
+  return order;
+}
+
+Layout SampleLayout(std::uint64_t seed, LiteralLayout::Mode mode) {
+  SeededRandom random(seed);
+  return LiteralLayout(random).BuildTesselPattern(mode);
+}
+
+TryOutResult TryOrders(const Layout& layout, RandomSource& random, long limit, int tries) {
+  LiteralSearch search(layout);
+  TryOutResult result;
+  for (int i = 0; i < tries && !result.solution; ++i) {
+    result.order = DrawOrder(random);
+    if (search.GenerateTessel(result.order, limit) == LiteralSearch::End::kSolved) {
+      result.solution = search.Levels[search.Depth].Digit;
+    }
+  }
+  result.iterations = search.iterations;
+  return result;
+}
+
+std::optional<Grid> SampleSolution(const Layout& layout, std::uint64_t seed) {
+  SeededRandom random(seed);
+  return TryOrders(layout, random, 500, 2000).solution;
+}
+
+Grid GridOf(std::string_view text) {
+  Grid grid{};
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] != '.') grid.at(i) = static_cast<std::int16_t>(text[i] - '0');
+  }
+  return grid;
+}
+
+}  // namespace tessel::oracle
