@@ -8,57 +8,52 @@
 
 namespace tessel {
 
-// Cells 0..63 are the bits of `low`, cells 64..80 the lowest bits of `high`.
+// Whole rows in each word, so that steps to the left and right stay inside one: `upper` holds rows
+// 0..4, cells 0..44, from its lowest bit on; `lower` rows 5..8, cells 45..80.
 struct CellSet {
-  std::uint64_t low = 0;
-  std::uint64_t high = 0;
+  std::uint64_t upper = 0;
+  std::uint64_t lower = 0;
+
+  static constexpr int kUpperCells = 45;
 
   static constexpr CellSet Of(int cell) {
-    return cell < 64 ? CellSet{std::uint64_t{1} << cell, 0}
-                     : CellSet{0, std::uint64_t{1} << (cell - 64)};
+    return cell < kUpperCells ? CellSet{std::uint64_t{1} << cell, 0}
+                              : CellSet{0, std::uint64_t{1} << (cell - kUpperCells)};
   }
-  static constexpr CellSet All() { return {~std::uint64_t{0}, (std::uint64_t{1} << 17) - 1}; }
 
-  constexpr bool Empty() const { return (low | high) == 0; }
+  constexpr bool Empty() const { return (upper | lower) == 0; }
   constexpr bool Contains(int cell) const { return !(*this & Of(cell)).Empty(); }
-  constexpr int Count() const { return std::popcount(low) + std::popcount(high); }
+  constexpr int Count() const { return std::popcount(upper) + std::popcount(lower); }
   // The lowest-numbered cell; the set must not be empty.
   constexpr int First() const {
-    return low != 0 ? std::countr_zero(low) : 64 + std::countr_zero(high);
+    return upper != 0 ? std::countr_zero(upper) : kUpperCells + std::countr_zero(lower);
   }
-
-  // The cells `by` numbers further on or back, 1..63; cells beyond 80 are kept and must be masked.
-  constexpr CellSet Later(int by) const { return {low << by, high << by | low >> (64 - by)}; }
-  constexpr CellSet Earlier(int by) const { return {low >> by | high << (64 - by), high >> by}; }
 
   friend constexpr CellSet operator&(CellSet a, CellSet b) {
-    return {a.low & b.low, a.high & b.high};
+    return {a.upper & b.upper, a.lower & b.lower};
   }
   friend constexpr CellSet operator|(CellSet a, CellSet b) {
-    return {a.low | b.low, a.high | b.high};
+    return {a.upper | b.upper, a.lower | b.lower};
   }
   friend constexpr CellSet operator-(CellSet a, CellSet b) {
-    return {a.low & ~b.low, a.high & ~b.high};
+    return {a.upper & ~b.upper, a.lower & ~b.lower};
   }
   friend constexpr bool operator==(CellSet, CellSet) = default;
 };
 
-namespace cell_set_detail {
-constexpr CellSet Column(int column) {
-  CellSet cells;
-  for (int row = 0; row < kSide; ++row) cells = cells | CellSet::Of(CellAt(row, column));
-  return cells;
-}
-inline constexpr CellSet kNotFirstColumn = CellSet::All() - Column(0);
-inline constexpr CellSet kNotLastColumn = CellSet::All() - Column(kSide - 1);
-}  // namespace cell_set_detail
+inline constexpr CellSet kAllCells{(std::uint64_t{1} << 45) - 1, (std::uint64_t{1} << 36) - 1};
 
-// The cells that touch a cell of `cells` by a side; may contain cells of `cells` themselves.
-constexpr CellSet NeighboursOf(CellSet cells) {
-  using namespace cell_set_detail;
-  const CellSet across =
-      ((cells & kNotLastColumn).Later(1)) | ((cells & kNotFirstColumn).Earlier(1));
-  return (across | cells.Later(kSide) | cells.Earlier(kSide)) & CellSet::All();
+// The cells of `area` that touch a cell of `cells` by a side; they may lie in `cells` themselves.
+constexpr CellSet NeighboursOf(CellSet cells, CellSet area = kAllCells) {
+  constexpr std::uint64_t firstColumn = 0x1008040201;  // of five rows
+  constexpr std::uint64_t notFirst = ~firstColumn;
+  constexpr std::uint64_t notLast = ~(firstColumn << (kSide - 1));
+  const auto beside = [](std::uint64_t rows) {
+    return (rows & notLast) << 1 | (rows & notFirst) >> 1 | rows << kSide | rows >> kSide;
+  };
+  const CellSet across{cells.lower << (CellSet::kUpperCells - kSide),
+                       cells.upper >> (CellSet::kUpperCells - kSide)};
+  return (CellSet{beside(cells.upper), beside(cells.lower)} | across) & area;
 }
 
 // The connected cells of `area` around its lowest-numbered cell; empty when `area` is.
@@ -66,7 +61,7 @@ constexpr CellSet FirstRegionOf(CellSet area) {
   if (area.Empty()) return area;
   CellSet region = CellSet::Of(area.First());
   while (true) {
-    const CellSet grown = region | (NeighboursOf(region) & area);
+    const CellSet grown = region | NeighboursOf(region, area);
     if (grown == region) return region;
     region = grown;
   }

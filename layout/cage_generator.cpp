@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "layout/open_field.h"
+
 namespace tessel {
 
 namespace {
@@ -14,17 +16,19 @@ constexpr int kRotationalCagesToGrow = 4;
 constexpr CellSet kAboveAndBelowCentre = CellSet::Of(31) | CellSet::Of(49);
 constexpr CellSet kLeftAndRightOfCentre = CellSet::Of(39) | CellSet::Of(41);
 
-CellSet CellsOfCage(const GameState& state, int cage) {
-  CellSet cells;
+// The cells to the right, below, to the left and above. A move that would leave the board leads
+// back to the cell itself, which comes to the same as the step that ends without effect.
+constexpr PerCell<std::array<std::int8_t, 4>> kNeighbours = [] {
+  PerCell<std::array<std::int8_t, 4>> neighbours{};
   for (int cell = 0; cell < kCellCount; ++cell) {
-    if (state.CageOfCell[cell] == cage) cells = cells | CellSet::Of(cell);
+    const auto move = [&](bool inside, int by) {
+      return static_cast<std::int8_t>(inside ? cell + by : cell);
+    };
+    neighbours[cell] = {move(ColumnOf(cell) < kSide - 1, 1), move(RowOf(cell) < kSide - 1, kSide),
+                        move(ColumnOf(cell) > 0, -1), move(RowOf(cell) > 0, -kSide)};
   }
-  return cells;
-}
-
-CellSet Unclaimed(const GameState& state) {
-  return CellsOfCage(state, 0);
-}
+  return neighbours;
+}();
 
 }  // namespace
 
@@ -56,6 +60,7 @@ void CageGenerator::BuildRegularLayout() {
 
 bool CageGenerator::Attempt() {
   state_.CageOfCell.fill(0);
+  unclaimed_ = kAllCells;
   for (int cell = 0; cell < kCellCount; ++cell) form_.SetCellOpaque(cell, false);
   rotational_ = form_.Checked(CheckBox::Rotational);
   const int cagesToGrow = rotational_ ? kRotationalCagesToGrow : kSide;
@@ -68,8 +73,7 @@ bool CageGenerator::Attempt() {
 }
 
 bool CageGenerator::GrowCage() {
-  CurrentCell = Unclaimed(state_).First();
-  Claim(CurrentCell, Cage);
+  StartCage(Cage, unclaimed_.First());
   GrowthList[0] = CurrentCell;
   PaintProgress(CurrentCell);
   for (int k = 1; k < kSide; ++k) {
@@ -84,32 +88,29 @@ bool CageGenerator::GrowCage() {
 bool CageGenerator::ClaimNextCell(int k) {
   int failCount = 0;
   while (failCount < kMostFailures) {
-    view_.PumpEvents();
-    const std::optional<int> next = DrawNeighbour();
-    if (!next) continue;
-    if (rotational_ && *next == kCentreCell) {
-      ++failCount;
+    const int next = StepInto();
+    if (state_.CageOfCell[next] != 0) {
+      if (state_.CageOfCell[next] == Cage) CurrentCell = next;
       continue;
     }
-    if (state_.CageOfCell[*next] == Cage) CurrentCell = *next;
-    if (state_.CageOfCell[*next] != 0) continue;
-    Claim(*next, Cage);
-    if (MayStand(*next, kSide - 1 - k)) {
-      CurrentCell = *next;
-      return true;
+    if (!(rotational_ && next == kCentreCell)) {
+      Claim(next, Cage);
+      if (MayStand(next, kSide - 1 - k)) {
+        CurrentCell = next;
+        return true;
+      }
+      GiveBack(next);
     }
     ++failCount;
-    Claim(*next, 0);
   }
   return false;
 }
 
 bool CageGenerator::MayStand(int cell, int cellsToCover) const {
-  if (!OpenField(cellsToCover, rotational_ ? 2 * Cage - 1 : Cage, cell)) return false;
+  if (!OpenField(unclaimed_, cellsToCover, rotational_ ? 2 * Cage - 1 : Cage, cell)) return false;
   if (!rotational_ || Cage != kRotationalCagesToGrow) return true;
-  const CellSet cage = CellsOfCage(state_, Cage);
-  if (kAboveAndBelowCentre.Contains(cell)) return (cage & kLeftAndRightOfCentre).Empty();
-  if (kLeftAndRightOfCentre.Contains(cell)) return (cage & kAboveAndBelowCentre).Empty();
+  if (kAboveAndBelowCentre.Contains(cell)) return (grown_ & kLeftAndRightOfCentre).Empty();
+  if (kLeftAndRightOfCentre.Contains(cell)) return (grown_ & kAboveAndBelowCentre).Empty();
   return true;
 }
 
@@ -128,9 +129,7 @@ bool CageGenerator::MirrorCage() {
 }
 
 bool CageGenerator::GrowCentreCage() {
-  Cage = kCentreCage;
-  CurrentCell = kCentreCell;
-  Claim(CurrentCell, Cage);
+  StartCage(kCentreCage, kCentreCell);
   for (int k = 1; k < kSide; ++k) {
     if (!ClaimNextCentreCell()) return false;
   }
@@ -142,62 +141,49 @@ bool CageGenerator::GrowCentreCage() {
 bool CageGenerator::ClaimNextCentreCell() {
   int failCount = 0;
   while (failCount < kMostFailures) {
-    view_.PumpEvents();
-    const std::optional<int> next = DrawNeighbour();
-    if (!next) continue;
-    const int cage = state_.CageOfCell[*next];
+    const int next = StepInto();
+    const int cage = state_.CageOfCell[next];
     if (cage != 0 && cage != Cage) {
       ++failCount;
       continue;
     }
-    CurrentCell = *next;
+    CurrentCell = next;
     if (cage == Cage) continue;
-    Claim(CurrentCell, Cage);
+    Claim(next, Cage);
     return true;
   }
   return false;
 }
 
+// The cell that one step of the walk leads to, in a random direction.
+int CageGenerator::StepInto() {
+  view_.PumpEvents();
+  return kNeighbours[CurrentCell][DrawIndex(random_, 4)];
+}
+
 // A cage that touches no unclaimed cell could never claim one nor count a failure: the walk would
 // not end. Happens in rotational layouts, in pockets that cages and their mirrors have closed off.
 bool CageGenerator::IsEnclosed() const {
-  return (NeighboursOf(CellsOfCage(state_, Cage)) & Unclaimed(state_)).Empty();
+  return NeighboursOf(grown_, unclaimed_).Empty();
 }
 
-// The cell to the right, below, to the left or above; none when that would leave the board.
-std::optional<int> CageGenerator::DrawNeighbour() {
-  switch (DrawIndex(random_, 4) + 1) {
-    case 1:
-      if (ColumnOf(CurrentCell) == kSide - 1) return std::nullopt;
-      return CurrentCell + 1;
-    case 2:
-      if (RowOf(CurrentCell) == kSide - 1) return std::nullopt;
-      return CurrentCell + kSide;
-    case 3:
-      if (ColumnOf(CurrentCell) == 0) return std::nullopt;
-      return CurrentCell - 1;
-    default:
-      if (RowOf(CurrentCell) == 0) return std::nullopt;
-      return CurrentCell - kSide;
-  }
-}
-
-// The look-ahead goes no further than two regions and remainders by nine, on purpose: it does not
-// ask whether the cage touches the region that it must finish in, nor about mirrors to come.
-bool CageGenerator::OpenField(int CellsToCover, int CurrentCage, int /*LastAddedCell*/) const {
-  const int empty = (kSide - CurrentCage) * kSide + CellsToCover;
-  if (empty == 0) return true;
-  const CellSet unclaimed = Unclaimed(state_);
-  const CellSet first = FirstRegionOf(unclaimed);
-  const int size1 = first.Count();
-  if (size1 == empty) return true;
-  const int size2 = FirstRegionOf(unclaimed - first).Count();
-  if (size1 + size2 != empty) return false;
-  return size1 % kSide <= CellsToCover || size2 % kSide <= CellsToCover;
+void CageGenerator::StartCage(int cage, int cell) {
+  Cage = cage;
+  grown_ = {};
+  CurrentCell = cell;
+  Claim(cell, cage);
 }
 
 void CageGenerator::Claim(int cell, int cage) {
   state_.CageOfCell[cell] = static_cast<std::int16_t>(cage);
+  unclaimed_ = unclaimed_ - CellSet::Of(cell);
+  if (cage == Cage) grown_ = grown_ | CellSet::Of(cell);
+}
+
+void CageGenerator::GiveBack(int cell) {
+  state_.CageOfCell[cell] = 0;
+  unclaimed_ = unclaimed_ | CellSet::Of(cell);
+  grown_ = grown_ - CellSet::Of(cell);
 }
 
 void CageGenerator::PaintProgress(int cell) {

@@ -3,7 +3,6 @@
 
 #include <array>
 #include <functional>
-#include <optional>
 
 #include "core/cell_set.h"
 #include "core/form.h"
@@ -27,11 +26,6 @@ class CageGenerator {
   // The nine 3x3 boxes, painted; no beep.
   void BuildRegularLayout();
 
-  // Whether the unclaimed cells can still be covered by the cage being grown, which needs
-  // CellsToCover more cells (0..7), and by whole cages. CurrentCage is the number of cages counted
-  // as begun; LastAddedCell is not consulted.
-  bool OpenField(int CellsToCover, int CurrentCage, int LastAddedCell) const;
-
  private:
   bool Attempt();
   bool GrowCage();
@@ -41,8 +35,10 @@ class CageGenerator {
   bool GrowCentreCage();
   bool ClaimNextCentreCell();
   bool IsEnclosed() const;
-  std::optional<int> DrawNeighbour();
+  int StepInto();
+  void StartCage(int cage, int cell);
   void Claim(int cell, int cage);
+  void GiveBack(int cell);
   void PaintProgress(int cell);
   void Paint(int cell);
 
@@ -59,6 +55,8 @@ class CageGenerator {
   int Cage = 0;                         // the cage being grown
   int CurrentCell = 0;                  // the walker, always on a cell of Cage
   std::array<int, kSide> GrowthList{};  // the cells of Cage in the order of their claiming
+  CellSet grown_;                       // the cells of Cage
+  CellSet unclaimed_;                   // the cells whose CageOfCell is 0
 };
 
 }  // namespace tessel

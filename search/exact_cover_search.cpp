@@ -21,6 +21,7 @@ ExactCoverSearch::ExactCoverSearch(GameState& state, View& view) : state_(state)
 }
 
 void ExactCoverSearch::Reset() {
+  lanes_.Follow(state_);
   Depth = 0;
   Levels.resize(1);
   levelPos_.resize(1);
@@ -63,21 +64,21 @@ SearchEnd ExactCoverSearch::Run(SearchDriver& driver) {
 void ExactCoverSearch::Step(SearchDriver& driver) {
   // Step 4. A cell that holds a digit is visited again.
   const SearchLevel& level = Levels[Depth];
-  if (level.Digit[level.Order[Pos()]] == 0) {
-    ChooseCell();
-    TryFirstDigit();
-  } else if (!TryNextDigit()) {
+  const bool revisit = level.Digit[level.Order[Pos()]] != 0;
+  if (!revisit) ChooseCell();
+  const std::optional<Outlook> outlook = revisit ? TryNextDigit() : TryFirstDigit();
+  if (!outlook) {
     ++Pos();
     return;
   }
   driver.TrialPlaced(Pos(), level.Order[Pos()]);
   --Pos();
   // Step 9. A dead end sends the search back to the cell just placed.
-  if (Pos() >= 0 && LookAhead().deadEnd) {
+  if (outlook->deadEnd) {
     ++Pos();
-    return;
+  } else if (outlook->single) {
+    PropagateSingles(driver);
   }
-  PropagateSingles(driver);
 }
 
 // Step 5. The first cell met with the fewest candidates comes to the current position; every cell
@@ -91,55 +92,53 @@ void ExactCoverSearch::ChooseCell() {
     if (count >= fewest) continue;
     fewest = count;
     std::swap(level.Order[i], level.Order[pos]);
+    if (fewest == 2) return;  // the fewest there are: singles are placed, dead ends are left
   }
 }
 
 // Steps 6 and 7.
-void ExactCoverSearch::TryFirstDigit() {
+Outlook ExactCoverSearch::TryFirstDigit() {
   SearchLevel& level = Levels[Depth];
   const int cell = level.Order[Pos()];
   int digit = 1;
   while (!Holds(level.Candidates[cell], digit)) ++digit;
   level.Digit[cell] = static_cast<std::int16_t>(digit);
   if (state_.BitCount[level.Candidates[cell]] == 1) level.LastChoice[cell] = kYes;
-  DLXRemoveCandidates(cell, digit, Pos() - 1);
+  return Remove(cell, digit, Pos() - 1);
 }
 
-// Step 8. False when the cell's digits are used up; it is empty again then.
-bool ExactCoverSearch::TryNextDigit() {
+// Step 8. None when the cell's digits are used up; it is empty again then.
+std::optional<Outlook> ExactCoverSearch::TryNextDigit() {
   SearchLevel& level = Levels[Depth];
   const int cell = level.Order[Pos()];
   const int oldDigit = level.Digit[cell];  // taken first: undoing empties the cell
   DLXUndo();
   if (level.LastChoice[cell] == kYes) {
     level.LastChoice[cell] = kNo;
-    return false;
+    return std::nullopt;
   }
   int digit = oldDigit + 1;
   while (!Holds(level.Candidates[cell], digit)) ++digit;
   level.Digit[cell] = static_cast<std::int16_t>(digit);
   const bool higherLeft = (level.Candidates[cell] >> digit) != 0;
   level.LastChoice[cell] = higherLeft ? kNo : kYes;
-  DLXRemoveCandidates(cell, digit, Pos() - 1);
-  return true;
+  return Remove(cell, digit, Pos() - 1);
 }
 
-// Step 10. A contradiction drops the singles and goes back to the cell placed last; where no
-// single was to be placed, the old level goes on.
+// Step 10. There is a single to be placed. A contradiction drops the singles and goes back to the
+// cell placed last.
 void ExactCoverSearch::PropagateSingles(SearchDriver& driver) {
-  if (Pos() < 0 || !LookAhead().single) return;
   OpenLevel();
-  while (true) {
-    const Outlook outlook = LookAhead();
-    if (outlook.deadEnd) {
-      --Depth;
-      ++Pos();
-      return;
-    }
-    if (!outlook.single || !DLXNakedSingle(Pos())) break;
-    const int cell = Levels[Depth].Order[Pos()];
+  std::optional<Outlook> outlook;
+  do {
+    outlook = PlaceSingle(Pos());
     --Pos();
-    driver.SinglePlaced(Pos(), cell);
+    driver.SinglePlaced(Pos(), Levels[Depth].Order[Pos() + 1]);
+  } while (outlook->single && !outlook->deadEnd);
+  if (outlook->deadEnd) {
+    --Depth;
+    ++Pos();
+    return;
   }
   OpenLevel();
   levelStart_[Depth] = Pos();
@@ -157,21 +156,6 @@ void ExactCoverSearch::OpenLevel() {
   }
   Levels[Depth] = Levels[Depth - 1];
   levelPos_[Depth] = levelPos_[Depth - 1];
-}
-
-ExactCoverSearch::Outlook ExactCoverSearch::LookAhead() const {
-  const SearchLevel& level = Levels[Depth];
-  std::int16_t deadEnd = 0;
-  std::int16_t single = 0;
-  for (int cell = 0; cell < kCellCount; ++cell) {
-    const Mask mask = level.Candidates[cell];
-    const auto unfilled = static_cast<std::int16_t>(-(level.Digit[cell] == 0));
-    const auto empty = static_cast<std::int16_t>(-(mask == 0));
-    const auto atMostOne = static_cast<std::int16_t>(-((mask & (mask - 1)) == 0));
-    deadEnd = static_cast<std::int16_t>(deadEnd | (unfilled & empty));
-    single = static_cast<std::int16_t>(single | (unfilled & atMostOne & ~empty));
-  }
-  return {deadEnd != 0, single != 0};
 }
 
 }  // namespace tessel

@@ -6,10 +6,12 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "core/game_state.h"
 #include "core/view.h"
+#include "search/outlook.h"
 #include "search/search_level.h"
 
 namespace tessel {
@@ -69,21 +71,17 @@ class ExactCoverSearch {
   std::int16_t Depth = 0;
 
  private:
-  struct Outlook {
-    bool deadEnd;  // an unfilled cell has no candidate left
-    bool single;   // an unfilled cell has exactly one
-  };
-
   void Reset();
   bool StartFromGivens();
   bool PlaceSinglesOfGivens();
   void Step(SearchDriver& driver);
   void ChooseCell();
-  void TryFirstDigit();
-  bool TryNextDigit();
+  Outlook TryFirstDigit();
+  std::optional<Outlook> TryNextDigit();
   void PropagateSingles(SearchDriver& driver);
   void OpenLevel();
-  Outlook LookAhead() const;
+  std::optional<Outlook> PlaceSingle(int Ptr);
+  Outlook Remove(int cell, int digit, int removePtr);
   std::int16_t& Pos() { return levelPos_[Depth]; }
 
   GameState& state_;
@@ -93,6 +91,8 @@ class ExactCoverSearch {
   std::vector<std::int16_t> levelPos_;
   std::vector<std::int16_t> levelStart_;
   std::int64_t iterations_ = 0;
+
+  HouseLanes lanes_;
 };
 
 }  // namespace tessel

@@ -55,16 +55,15 @@ bool ExactCoverSearch::StartFromGivens() {
     RemoveFromHouses(state_, cell, given, level.Candidates);
     level.Candidates[cell] = 0;
   }
-  return sound && !LookAhead().deadEnd;
+  return sound && !OutlookOf(level).deadEnd;
 }
 
 // False when a single leaves another cell without a candidate.
 bool ExactCoverSearch::PlaceSinglesOfGivens() {
-  Outlook outlook = LookAhead();
+  Outlook outlook = OutlookOf(Levels[0]);
   while (outlook.single && !outlook.deadEnd) {
-    DLXNakedSingle(Pos());
+    outlook = *PlaceSingle(Pos());
     --Pos();
-    outlook = LookAhead();
   }
   levelStart_[0] = Pos();
   return !outlook.deadEnd;
