@@ -22,6 +22,9 @@ class CandidateMarks {
   void Undo();
 
  private:
+  // An empty cell shows its mask in `shown`.
+  void Refresh(const MaskBoard& shown);
+
   GameState& state_;
   Form& form_;
 };
