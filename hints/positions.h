@@ -1,0 +1,86 @@
+// Sets of positions in a house, and the combinations that the pattern searches try.
+#pragma once
+
+#include <array>
+#include <bit>
+#include <cstddef>
+#include <optional>
+#include <span>
+
+#include "core/cell.h"
+#include "core/houses.h"
+
+namespace tessel {
+
+// Bit k stands for position k of a house, 0..8.
+using Positions = Mask;
+inline constexpr Positions kAllPositions = 511;
+
+// The lowest position of the set for which `holds(position)` is true.
+template <typename Predicate>
+constexpr std::optional<int> FirstOf(Positions positions, Predicate holds) {
+  for (auto rest = static_cast<unsigned>(positions); rest != 0; rest &= rest - 1) {
+    const int position = std::countr_zero(rest);
+    if (holds(position)) return position;
+  }
+  return std::nullopt;
+}
+template <typename Predicate>
+constexpr bool AnyOf(Positions positions, Predicate holds) {
+  return FirstOf(positions, holds).has_value();
+}
+constexpr int LowestOf(Positions positions) {
+  return std::countr_zero(static_cast<unsigned>(positions));
+}
+
+// The positions of the house whose mask has a digit of `digits`.
+inline Positions PositionsWith(const MaskBoard& masks, const HouseCells& cells, Mask digits) {
+  int positions = 0;
+  for (int k = 0; k < kSide; ++k) {
+    if ((masks[cells[k]] & digits) != 0) positions |= 1 << k;
+  }
+  return static_cast<Positions>(positions);
+}
+
+namespace positions_detail {
+
+// Position 0 as the highest bit, so that falling numbers are sets in lexicographic order.
+constexpr Positions Mirrored(int positions) {
+  int mirrored = 0;
+  for (int k = 0; k < kSide; ++k) mirrored |= (positions >> k & 1) << (kSide - 1 - k);
+  return static_cast<Positions>(mirrored);
+}
+
+template <std::size_t count>
+constexpr std::array<Positions, count> Combinations(int size) {
+  std::array<Positions, count> combinations{};
+  std::size_t next = 0;
+  for (int mirrored = kAllPositions; mirrored >= 0; --mirrored) {
+    if (std::popcount(static_cast<unsigned>(mirrored)) == size) {
+      combinations[next++] = Mirrored(mirrored);
+    }
+  }
+  return combinations;
+}
+
+inline constexpr auto kPairs = Combinations<36>(2);
+inline constexpr auto kTriples = Combinations<84>(3);
+inline constexpr auto kQuads = Combinations<126>(4);
+inline constexpr auto kQuints = Combinations<126>(5);
+static_assert(kPairs[0] == 0b11 && kPairs[1] == 0b101 && kPairs[35] == 0b110000000);
+static_assert(kQuints[125] == 0b111110000);
+
+}  // namespace positions_detail
+
+// Every choice of `size` (2..5) of the nine positions, in increasing lexicographic order; nothing
+// for other sizes. As masks they are the choices of `size` digits, too.
+constexpr std::span<const Positions> CombinationsOf(int size) {
+  using namespace positions_detail;
+  if (size == 2) return kPairs;
+  if (size == 3) return kTriples;
+  if (size == 4) return kQuads;
+  if (size == 5) return kQuints;
+  return {};
+}
+
+}  // namespace tessel
