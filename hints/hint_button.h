@@ -21,6 +21,13 @@ class HintButton {
   void AddText(const std::string& TextLine);
 
  private:
+  // Each writes its message and returns true, or does nothing and returns false.
+  bool RevealAssignment();
+  bool ReportMistake(bool (*isMistaken)(const GameState&, int cell), Sound sound,
+                     std::string (*message)(const GameState&, int cell));
+  bool ClimbLadder();
+  void PointAt(int cell, Sound sound, const std::string& message);
+
   GameState& state_;
   Form& form_;
   Sounds& sounds_;

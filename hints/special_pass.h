@@ -28,6 +28,10 @@ class SpecialPass {
   void SpecialPencilmarks(bool highlighted);
 
  private:
+  void Announce();
+  bool MakeElimination();
+  void RemoveMark(int cell, int digit);
+
   GameState& state_;
   Form& form_;
   Sounds& sounds_;
