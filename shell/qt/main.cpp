@@ -5,19 +5,11 @@
 #include <cstdlib>
 
 #include "core/random_source.h"
+#include "shell/qt/qt_sound_player.h"
 #include "shell/qt/system_clock.h"
 #include "shell/qt/tessel_window.h"
 
 namespace {
-
-// Until there is a player that sounds.
-class SilentPlayer final : public tessel::SoundPlayer {
- public:
-  void SetOwner(std::int32_t) override {}
-  int Status() override { return 0; }
-  std::int32_t Load(const std::string&) override { return -1; }
-  void Play(std::int32_t) override {}
-};
 
 // Without a display Qt explains itself at length and aborts; one line and an exit status do better.
 void SayThatThereIsNoDisplay(QtMsgType type, const QMessageLogContext&, const QString&) {
@@ -38,7 +30,7 @@ int main(int, char** argv) {
   QApplication::setApplicationName("tessel-sudoku");
 
   tessel::TesselWindow window;
-  SilentPlayer player;
+  tessel::QtSoundPlayer player;
   tessel::SystemClock clock;
   tessel::SeededRandom random;
   const QByteArray folder = QFile::encodeName(QCoreApplication::applicationDirPath());
