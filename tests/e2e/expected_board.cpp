@@ -1,0 +1,63 @@
+#include "tests/e2e/expected_board.h"
+
+namespace tessel {
+namespace {
+
+int NoDigit(int) {
+  return 0;
+}
+bool NoMark(int, int) {
+  return false;
+}
+
+}  // namespace
+
+ExpectedBoard::ExpectedBoard() {
+  FillTables(state_);
+}
+
+ExpectedBoard::ExpectedBoard(const PuzzleRecord& puzzle, bool solving, const DigitOf& digitOf,
+                             const ShowsMark& showsMark)
+    : ExpectedBoard() {
+  form_.ShowSolveButtons(solving);
+  state_.SavedPuzzle = puzzle;
+  for (int cell = 0; cell < kCellCount; ++cell) {
+    state_.CageOfCell[cell] = puzzle.CageMap[cell];
+    form_.SetCellOpaque(cell, true);
+    form_.SetCellBackground(cell, kCageColours[puzzle.CageMap[cell] - 1]);
+    form_.SetCellText(cell, digitOf(cell));
+    for (int digit = 1; digit <= kSide; ++digit) {
+      form_.SetMarkColour(cell, digit, kBlack);
+      form_.SetMarkVisible(cell, digit, showsMark(cell, digit));
+    }
+  }
+  RebuildCageCells(state_);
+}
+
+ExpectedBoard ExpectedBoard::Empty() {
+  return {};
+}
+
+ExpectedBoard ExpectedBoard::Sawn(const PuzzleRecord& puzzle) {
+  return {puzzle, false, NoDigit, [](int, int) { return true; }};
+}
+
+ExpectedBoard ExpectedBoard::Filled(const PuzzleRecord& puzzle) {
+  const auto isSolution = [&](int cell, int digit) { return puzzle.Solution[cell] == digit; };
+  return {puzzle, false, NoDigit, isSolution};
+}
+
+ExpectedBoard ExpectedBoard::Concealed(const PuzzleRecord& puzzle) {
+  return {puzzle, false, [&](int cell) { return puzzle.Board[cell]; }, NoMark};
+}
+
+ExpectedBoard ExpectedBoard::Playing(const ExpectedGame& game) {
+  return {game.Puzzle(), true, [&](int cell) { return game.Digit(cell); },
+          [&](int cell, int digit) { return game.ShowsMark(cell, digit); }};
+}
+
+ExpectedBoard ExpectedBoard::Solved(const PuzzleRecord& puzzle) {
+  return {puzzle, true, [&](int cell) { return puzzle.Solution[cell]; }, NoMark};
+}
+
+}  // namespace tessel

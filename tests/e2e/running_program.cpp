@@ -1,0 +1,116 @@
+#include "tests/e2e/running_program.h"
+
+#include <signal.h>
+
+#include <stdexcept>
+
+#include "tests/e2e/desktop.h"
+#include "tests/e2e/eventually.h"
+
+namespace tessel {
+namespace {
+
+constexpr int kPatienceMs = static_cast<int>(std::chrono::milliseconds(kPatience).count());
+
+QStringList MoveTo(QPoint onDisplay) {
+  return {"mousemove", QString::number(onDisplay.x()), QString::number(onDisplay.y())};
+}
+
+}  // namespace
+
+void InstallProgram(const std::filesystem::path& folder) {
+  QProcess cmake;
+  cmake.start(CMAKE_PROGRAM, {"--install", TESSEL_BINARY_DIR, "--prefix",
+                              QString::fromStdString(folder.string())});
+  if (!cmake.waitForFinished(kPatienceMs) || cmake.exitCode() != 0) {
+    throw std::runtime_error("not installed: " + cmake.readAllStandardError().toStdString());
+  }
+}
+
+std::string DesktopWindow::Caption() const {
+  return TheDesktop().Xdo({"getwindowname", id_}).toStdString();
+}
+
+QRect DesktopWindow::Area() const {
+  const QString told = TheDesktop().Run("xwininfo", {"-id", id_});
+  const auto number = [&told](const char* label) {
+    return told.section(label, 1).section('\n', 0, 0).toInt();
+  };
+  return {number("Absolute upper-left X:"), number("Absolute upper-left Y:"), number("Width:"),
+          number("Height:")};
+}
+
+QImage DesktopWindow::Screenshot() const {
+  return TheDesktop().Screenshot(Area());
+}
+
+void DesktopWindow::Resize(QSize size) const {
+  TheDesktop().Xdo(
+      {"windowsize", id_, QString::number(size.width()), QString::number(size.height())});
+  Eventually([&] { return Area().size() == size; }, std::chrono::seconds(10));
+}
+
+void DesktopWindow::Click(QPoint place, Hand button) const {
+  TheDesktop().Xdo(MoveTo(Area().topLeft() + place) +
+                   QStringList{"click", QString::number(static_cast<int>(button))});
+}
+
+void DesktopWindow::PointAt(QPoint place) const {
+  TheDesktop().Xdo(MoveTo(Area().topLeft() + place));
+}
+
+RunningProgram::RunningProgram(const std::filesystem::path& folder)
+    : RunningProgram(folder, QProcessEnvironment::systemEnvironment()) {}
+
+RunningProgram::RunningProgram(const std::filesystem::path& folder,
+                               const QProcessEnvironment& environment) {
+  process_.setProcessEnvironment(environment);
+  process_.setProcessChannelMode(QProcess::ForwardedChannels);
+  process_.start(QString::fromStdString((folder / "tessel-sudoku").string()), QStringList());
+  if (!Eventually([this] { return !Windows().isEmpty(); })) {
+    throw std::runtime_error("the program shows no window");
+  }
+  window_ = DesktopWindow(Windows().first());
+}
+
+RunningProgram::~RunningProgram() {
+  if (!Running()) return;
+  process_.kill();
+  process_.waitForFinished(kPatienceMs);
+}
+
+QStringList RunningProgram::Windows() const {
+  const QString found = TheDesktop().Xdo({"search", "--onlyvisible", "--name", "^Tessel Sudoku"});
+  return found.split('\n', Qt::SkipEmptyParts);
+}
+
+bool RunningProgram::Asks() const {
+  return Windows().size() > 1;
+}
+
+DesktopWindow RunningProgram::Question() const {
+  if (!Eventually([this] { return Asks(); })) throw std::runtime_error("no question appears");
+  for (const QString& id : Windows()) {
+    if (id != window_.Id()) return DesktopWindow(id);
+  }
+  throw std::runtime_error("the question vanished");
+}
+
+void RunningProgram::SendSignal(int number) const {
+  kill(static_cast<pid_t>(process_.processId()), number);
+}
+
+bool RunningProgram::Running() {
+  process_.waitForFinished(0);
+  return process_.state() != QProcess::NotRunning;
+}
+
+bool RunningProgram::Ended() {
+  return !Running() || process_.waitForFinished(kPatienceMs);
+}
+
+void Press(const QStringList& keys) {
+  TheDesktop().Xdo(QStringList{"key", "--clearmodifiers"} + keys);
+}
+
+}  // namespace tessel

@@ -1,0 +1,70 @@
+// The real program, installed into a folder and started on the desktop, in the hands of a user.
+#pragma once
+
+#include <QImage>
+#include <QProcess>
+#include <QRect>
+#include <QString>
+#include <filesystem>
+#include <string>
+
+namespace tessel {
+
+// Installs the program with its sounds into `folder`, as a user gets it.
+void InstallProgram(const std::filesystem::path& folder);
+
+enum class Hand { kLeft = 1, kMiddle = 2, kRight = 3 };
+
+// A window as the display shows it. Places are relative to its contents.
+class DesktopWindow {
+ public:
+  explicit DesktopWindow(QString id) : id_(std::move(id)) {}
+
+  const QString& Id() const { return id_; }
+  // What the title bar says.
+  std::string Caption() const;
+  // Where the contents lie on the display.
+  QRect Area() const;
+  QImage Screenshot() const;
+  // Makes the contents as large as this, or as the window allows.
+  void Resize(QSize size) const;
+  // A mouse button pressed and released.
+  void Click(QPoint place, Hand button = Hand::kLeft) const;
+  void PointAt(QPoint place) const;
+
+ private:
+  QString id_;
+};
+
+class RunningProgram {
+ public:
+  // Starts the program that lies in `folder` and waits for its window.
+  explicit RunningProgram(const std::filesystem::path& folder);
+  RunningProgram(const std::filesystem::path& folder, const QProcessEnvironment& environment);
+  RunningProgram(const RunningProgram&) = delete;
+  RunningProgram& operator=(const RunningProgram&) = delete;
+  // Kills it if it still runs.
+  ~RunningProgram();
+
+  const DesktopWindow& Window() const { return window_; }
+  // The question that the program asks in a window of its own; waits for it.
+  DesktopWindow Question() const;
+  bool Asks() const;
+
+  void SendSignal(int number) const;
+  bool Running();
+  // Waits for the end; false when it does not come.
+  bool Ended();
+  int ExitStatus() const { return process_.exitCode(); }
+
+ private:
+  QStringList Windows() const;
+
+  QProcess process_;
+  DesktopWindow window_{QString()};
+};
+
+// Keys pressed one after another, as xdotool names them, by whoever has the keyboard.
+void Press(const QStringList& keys);
+
+}  // namespace tessel

@@ -1,0 +1,170 @@
+#include "tests/e2e/user.h"
+
+#include <QDir>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <regex>
+
+#include "tests/e2e/desktop.h"
+#include "tests/e2e/eventually.h"
+
+namespace tessel {
+namespace {
+
+QImage Plain(const QPixmap& pixmap) {
+  return pixmap.toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+// How much two pictures differ: the sum over all pixels and colours.
+long Distance(const QImage& one, const QImage& other) {
+  long distance = 0;
+  for (int y = 0; y < one.height(); ++y) {
+    for (int x = 0; x < one.width(); ++x) {
+      const QColor a = one.pixelColor(x, y);
+      const QColor b = other.pixelColor(x, y);
+      distance += std::abs(a.red() - b.red()) + std::abs(a.green() - b.green()) +
+                  std::abs(a.blue() - b.blue());
+    }
+  }
+  return distance;
+}
+
+// Keeps both pictures for the reader of a failed test, and tells where.
+testing::AssertionResult Differs(const QImage& expected, const QImage& seen) {
+  const auto* const test = testing::UnitTest::GetInstance()->current_test_info();
+  QString name = QString("%1.%2").arg(test->test_suite_name(), test->name()).replace('/', '.');
+  const QDir folder(TESSEL_BINARY_DIR "/pictures");
+  folder.mkpath(".");
+  name = folder.filePath(name);
+  expected.save(name + "-expected.png");
+  seen.save(name + "-seen.png");
+  return testing::AssertionFailure() << "see " << name.toStdString() << "-{expected,seen}.png";
+}
+
+}  // namespace
+
+User::User(const std::filesystem::path& folder, const QProcessEnvironment& environment)
+    : program_(folder, environment), twin_(program_.Window().Area().size()) {}
+
+void User::ResizeWindow(QSize size) {
+  program_.Window().Resize(size);
+  twin_.Resize(program_.Window().Area().size());
+}
+
+void User::Press(const char* control) const {
+  program_.Window().Click(twin_.AreaOf(control).center());
+}
+
+void User::ClickMark(int cell, int digit, Hand button) {
+  program_.Window().Click(twin_.MarkPlace(cell, digit), button);
+  focusedCell_ = cell;
+}
+
+testing::AssertionResult User::Answers(const char* title, const char* question, bool yes) const {
+  QMessageBox twin(QMessageBox::Question, title, question, QMessageBox::Yes | QMessageBox::No);
+  twin.setAttribute(Qt::WA_DontShowOnScreen);
+  twin.show();
+  QCoreApplication::processEvents();
+  const auto& label = *twin.findChild<QLabel*>("qt_msgbox_label");
+  const QImage expected = Plain(const_cast<QLabel&>(label).grab());
+
+  const DesktopWindow asked = program_.Question();
+  if (asked.Caption() != title) return testing::AssertionFailure() << asked.Caption();
+  QImage seen;
+  const auto readsSo = [&] {
+    seen = asked.Screenshot().copy(label.geometry());
+    return seen == expected;
+  };
+  if (!Eventually(readsSo)) return Differs(expected, seen);
+  asked.Click(twin.button(yes ? QMessageBox::Yes : QMessageBox::No)->geometry().center());
+  return testing::AssertionSuccess();
+}
+
+testing::AssertionResult User::RunsCommand(const char* button, const char* told) {
+  Press(button);
+  return SeesCaption(std::string("Tessel Sudoku - ") + told + R"( in [0-9]+\.[0-9]{2} ms)");
+}
+
+testing::AssertionResult User::MakesPuzzle() {
+  for (const auto& [button, told] : {std::pair{"CommandSaw", "Sawed"},
+                                     {"CommandGo", "Filled"},
+                                     {"CommandConceal", "Concealed"}}) {
+    if (const auto result = RunsCommand(button, told); !result) return result;
+  }
+  return testing::AssertionSuccess();
+}
+
+testing::AssertionResult User::SeesCaption(const std::string& pattern) const {
+  std::string caption;
+  const auto fits = [&] {
+    caption = program_.Window().Caption();
+    return std::regex_match(caption, std::regex(pattern));
+  };
+  if (Eventually(fits)) return testing::AssertionSuccess();
+  return testing::AssertionFailure() << "the caption is " << caption;
+}
+
+testing::AssertionResult User::SeesStage(Stage stage) {
+  const std::tuple<const char*, const char*, bool> expected[] = {
+      {"CommandSaw", "Saw", true},
+      {"CommandGo", "Fill", stage >= Stage::kLayoutMade},
+      {"CommandConceal", "Conceal", stage >= Stage::kGridFilled},
+      {"CommandSolve", "Solve", stage >= Stage::kPuzzleConcealed},
+      {"CommandExit", "Exit", true},
+  };
+  for (const auto& [button, caption, enabled] : expected) {
+    if (const auto result = SeesButton(button, caption, enabled); !result) return result;
+  }
+  return testing::AssertionSuccess();
+}
+
+testing::AssertionResult User::SeesButton(const char* button, const char* caption, bool enabled) {
+  if (Eventually([&] { return LooksEnabled(button, caption) == enabled; })) {
+    return testing::AssertionSuccess();
+  }
+  return testing::AssertionFailure() << button << " does not look as if enabled=" << enabled;
+}
+
+bool User::LooksEnabled(const char* button, const char* caption) {
+  const QImage seen = LooksAt(twin_.AreaOf(button));
+  return Distance(seen, twin_.Button(button, caption, true)) <
+         Distance(seen, twin_.Button(button, caption, false));
+}
+
+testing::AssertionResult User::SeesText(const char* label, const std::string& text) {
+  const QImage expected = twin_.Text(label, text);
+  QImage seen;
+  const auto readsSo = [&] {
+    seen = LooksAt(twin_.AreaOf(label));
+    return seen == expected;
+  };
+  return Eventually(readsSo) ? testing::AssertionSuccess() : Differs(expected, seen);
+}
+
+testing::AssertionResult User::SeesBoard(const ExpectedBoard& board) const {
+  QImage seen;
+  const auto looksSo = [&] {
+    seen = LooksAtBoard();
+    return Recognises(seen, board);
+  };
+  return Eventually(looksSo) ? testing::AssertionSuccess()
+                             : Differs(twin_.Board(board, focusedCell_), seen);
+}
+
+// The pointer would outline what it points at.
+QImage User::LooksAtBoard() const {
+  TheDesktop().Xdo(
+      {"mousemove", QString::number(Desktop::kWidth - 1), QString::number(Desktop::kHeight - 1)});
+  return LooksAt(twin_.AreaOfBoard());
+}
+
+bool User::Recognises(const QImage& picture, const ExpectedBoard& board) const {
+  return picture == twin_.Board(board, std::nullopt) || picture == twin_.Board(board, focusedCell_);
+}
+
+QImage User::LooksAt(const QRect& area) const {
+  return program_.Window().Screenshot().copy(area);
+}
+
+}  // namespace tessel

@@ -1,0 +1,73 @@
+#include "tests/e2e/window_twin.h"
+
+#include <QCoreApplication>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <stdexcept>
+
+namespace tessel {
+
+WindowTwin::WindowTwin(QSize size)
+    : logic_(window_, player_, clock_, random_, folder_.Path().string()) {
+  window_.setAttribute(Qt::WA_DontShowOnScreen);
+  window_.Attach(logic_);
+  logic_.Form_Load();
+  // The frame of the solving mode has its place even while it is hidden; its parts get theirs once
+  // it is shown.
+  Find<QWidget>("SolveButtons").show();
+  Resize(size);
+}
+
+void WindowTwin::Resize(QSize size) {
+  window_.resize(size);
+  QCoreApplication::processEvents();
+}
+
+template <typename Widget>
+Widget& WindowTwin::Find(const char* control) const {
+  auto* const found = window_.findChild<Widget*>(control);
+  if (found == nullptr) throw std::runtime_error(std::string("no control named ") + control);
+  return *found;
+}
+
+BoardWidget& WindowTwin::BoardOf() const {
+  return Find<BoardWidget>("Board");
+}
+
+QRect WindowTwin::AreaOf(const char* control) const {
+  const auto& widget = Find<QWidget>(control);
+  return {widget.mapTo(&window_, QPoint(0, 0)), widget.size()};
+}
+
+QPoint WindowTwin::MarkPlace(int cell, int digit) const {
+  const QRect mark = BoardOf().Geometry().MarkRect(cell, digit);
+  return AreaOfBoard().topLeft() + mark.center();
+}
+
+QImage WindowTwin::Board(const ExpectedBoard& board, std::optional<int> focusedCell) const {
+  QImage image(BoardOf().size(), QImage::Format_RGB32);
+  image.fill(window_.palette().color(QPalette::Window));
+  QPainter painter(&image);
+  BoardPointers pointers;
+  pointers.active = pointers.focused = focusedCell;
+  const BoardGeometry geometry = BoardOf().Geometry();
+  BoardPainter(board.form(), board.state(), geometry, BoardOf().font())
+      .Paint(painter, image.rect(), pointers);
+  return image;
+}
+
+QImage WindowTwin::Button(const char* button, const char* caption, bool enabled) {
+  auto& widget = Find<QPushButton>(button);
+  widget.setText(caption);
+  widget.setEnabled(enabled);
+  return widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+QImage WindowTwin::Text(const char* label, const std::string& text) {
+  auto& widget = Find<QLabel>(label);
+  widget.setText(QString::fromStdString(text));
+  return widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+}  // namespace tessel
