@@ -1,6 +1,7 @@
 #include "search/exact_cover_search.h"
 
-#include <cassert>
+#include <algorithm>
+#include <cstring>
 #include <utility>
 
 namespace tessel {
@@ -27,13 +28,14 @@ void ExactCoverSearch::Reset() {
   levelPos_.resize(1);
   levelStart_.resize(1);
   Levels[0].UndoCount = 0;
+  Levels[0].Digit.fill(kBeyondTheBoard);
   Levels[0].LastChoice.fill(kNo);
   Levels[0].Candidates.fill(kAllCandidates);
 }
 
 void ExactCoverSearch::StartEmpty(const PerCell<std::int16_t>& order) {
   Reset();
-  Levels[0].Digit.fill(0);
+  std::fill_n(Levels[0].Digit.begin(), kCellCount, std::int16_t{0});
   Levels[0].Order = order;
   levelPos_[0] = kLastPosition;
   levelStart_[0] = kLastPosition;
@@ -102,7 +104,6 @@ Outlook ExactCoverSearch::TryFirstDigit() {
   const int cell = level.Order[Pos()];
   int digit = 1;
   while (!Holds(level.Candidates[cell], digit)) ++digit;
-  level.Digit[cell] = static_cast<std::int16_t>(digit);
   if (state_.BitCount[level.Candidates[cell]] == 1) level.LastChoice[cell] = kYes;
   return Remove(cell, digit, Pos() - 1);
 }
@@ -119,7 +120,6 @@ std::optional<Outlook> ExactCoverSearch::TryNextDigit() {
   }
   int digit = oldDigit + 1;
   while (!Holds(level.Candidates[cell], digit)) ++digit;
-  level.Digit[cell] = static_cast<std::int16_t>(digit);
   const bool higherLeft = (level.Candidates[cell] >> digit) != 0;
   level.LastChoice[cell] = higherLeft ? kNo : kYes;
   return Remove(cell, digit, Pos() - 1);
@@ -154,7 +154,7 @@ void ExactCoverSearch::OpenLevel() {
     levelPos_.resize(size);
     levelStart_.resize(size);
   }
-  Levels[Depth] = Levels[Depth - 1];
+  std::memmove(&Levels[Depth], &Levels[Depth - 1], sizeof(SearchLevel));
   levelPos_[Depth] = levelPos_[Depth - 1];
 }
 

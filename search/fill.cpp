@@ -1,5 +1,6 @@
 #include "search/fill.h"
 
+#include <algorithm>
 #include <limits>
 
 #include "core/stage_time.h"
@@ -48,7 +49,7 @@ bool FillGenerator::GenerateTessel() {
   const SearchLevel& solution = search_.Top();
   ProgressDrawing(state_, form_, search_)
       .DLXUpdateGrid(-1, solution.Order.front(), UpdateMode::kFinished);
-  state_.WorkGrid = solution.Digit;
+  std::copy_n(solution.Digit.begin(), kCellCount, state_.WorkGrid.begin());
   return true;
 }
 

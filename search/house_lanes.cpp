@@ -2,6 +2,21 @@
 
 namespace tessel {
 
+namespace {
+
+// A window of kLaneCount lanes slides over a single set one.
+constexpr std::array<std::int16_t, 2 * kLaneCount> kOneLane = [] {
+  std::array<std::int16_t, 2 * kLaneCount> lanes{};
+  lanes[kLaneCount] = -1;
+  return lanes;
+}();
+
+}  // namespace
+
+const std::int16_t* OwnLane(int cell) {
+  return kOneLane.data() + (kLaneCount - cell);
+}
+
 HouseLanes::HouseLanes() {
   for (int cell = 0; cell < kCellCount; ++cell) {
     rows_[RowOf(cell)][cell] = static_cast<std::int16_t>(1 << ColumnOf(cell));

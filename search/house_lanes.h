@@ -1,14 +1,17 @@
 // The houses of each cell as rows of 16-bit lanes, one for each cell of the board.
 #pragma once
 
-#include "core/game_state.h"
+#include "search/search_level.h"
 
 namespace tessel {
 
 // At every cell, the bit by which the undo log names it among the cells that share a house with a
 // placed cell: bit c in column c of its row, bit r in row r of its column, bit k for the k-th cell
 // of its cage that shares neither; 0 at all other cells.
-using LogBits = PerCell<std::int16_t>;
+using LogBits = Lanes;
+
+// Lanes of which only the cell's own is set, with all its bits.
+const std::int16_t* OwnLane(int cell);
 
 class HouseLanes {
  public:

@@ -1,5 +1,14 @@
 #include "search/outlook.h"
 
+// Where the compiler can, the passes are also built for wider vectors and chosen when the program
+// starts on a processor that has them.
+#if defined(__x86_64__) && defined(__GNUC__) && !defined(__clang__) && \
+    !defined(__SANITIZE_ADDRESS__)
+#define TESSEL_WIDE_VECTORS __attribute__((target_clones("avx2", "default")))
+#else
+#define TESSEL_WIDE_VECTORS
+#endif
+
 namespace tessel {
 
 namespace {
@@ -28,21 +37,23 @@ struct Findings {
 
 }  // namespace
 
-Outlook OutlookOf(const SearchLevel& level) {
+TESSEL_WIDE_VECTORS Outlook OutlookOf(const SearchLevel& level) {
   Findings findings;
-  for (int cell = 0; cell < kCellCount; ++cell) {
+  for (int cell = 0; cell < kLaneCount; ++cell) {
     findings.Add(LaneOfEmpty(level.Digit[cell]), level.Candidates[cell]);
   }
   return findings.Result();
 }
 
-Outlook TakeFromPeers(SearchLevel& level, const HouseLanes& lanes, int placed, Mask bit) {
+TESSEL_WIDE_VECTORS Outlook TakeFromPeers(SearchLevel& level, const HouseLanes& lanes, int placed,
+                                          Mask bit) {
   const LogBits& row = lanes.Row(placed);
   const LogBits& column = lanes.Column(placed);
   const LogBits& cage = lanes.Cage(placed);
+  const std::int16_t* own = OwnLane(placed);
   Findings findings;
-  for (int cell = 0; cell < kCellCount; ++cell) {
-    const Mask unfilled = LaneOfEmpty(level.Digit[cell]);
+  for (int cell = 0; cell < kLaneCount; ++cell) {
+    const auto unfilled = static_cast<Mask>(LaneOfEmpty(level.Digit[cell]) & ~own[cell]);
     const auto logBits = static_cast<Mask>(row[cell] | column[cell] | cage[cell]);
     const auto taken = static_cast<Mask>(~LaneOfEmpty(logBits) & bit & unfilled);
     const Mask mask = Without(level.Candidates[cell], taken);
@@ -52,17 +63,18 @@ Outlook TakeFromPeers(SearchLevel& level, const HouseLanes& lanes, int placed, M
   return findings.Result();
 }
 
-Outlook TakeFromPeersLogged(SearchLevel& level, const HouseLanes& lanes, int placed, Mask bit,
-                            int u) {
+TESSEL_WIDE_VECTORS Outlook TakeFromPeersLogged(SearchLevel& level, const HouseLanes& lanes,
+                                                int placed, Mask bit, int u) {
   const LogBits& row = lanes.Row(placed);
   const LogBits& column = lanes.Column(placed);
   const LogBits& cage = lanes.Cage(placed);
+  const std::int16_t* own = OwnLane(placed);
   Mask rowMask = 0;
   Mask columnMask = 0;
   Mask cageMask = 0;
   Findings findings;
-  for (int cell = 0; cell < kCellCount; ++cell) {
-    const Mask unfilled = LaneOfEmpty(level.Digit[cell]);
+  for (int cell = 0; cell < kLaneCount; ++cell) {
+    const auto unfilled = static_cast<Mask>(LaneOfEmpty(level.Digit[cell]) & ~own[cell]);
     const auto has =
         static_cast<Mask>(~LaneOfEmpty(static_cast<Mask>(level.Candidates[cell] & bit)) & unfilled);
     const auto inRow = static_cast<Mask>(row[cell] & has);
@@ -82,14 +94,15 @@ Outlook TakeFromPeersLogged(SearchLevel& level, const HouseLanes& lanes, int pla
   return findings.Result();
 }
 
-void GiveBack(SearchLevel& level, const HouseLanes& lanes, int placed, Mask bit, int u) {
+TESSEL_WIDE_VECTORS void GiveBack(SearchLevel& level, const HouseLanes& lanes, int placed, Mask bit,
+                                  int u) {
   const LogBits& row = lanes.Row(placed);
   const LogBits& column = lanes.Column(placed);
   const LogBits& cage = lanes.Cage(placed);
   const Mask rowMask = level.UndoRowMask[u];
   const Mask columnMask = level.UndoColumnMask[u];
   const Mask cageMask = level.UndoCageMask[u];
-  for (int cell = 0; cell < kCellCount; ++cell) {
+  for (int cell = 0; cell < kLaneCount; ++cell) {
     const auto lost = static_cast<Mask>((row[cell] & rowMask) | (column[cell] & columnMask) |
                                         (cage[cell] & cageMask));
     level.Candidates[cell] = static_cast<Mask>(level.Candidates[cell] | (bit & ~LaneOfEmpty(lost)));

@@ -9,10 +9,17 @@
 
 namespace tessel {
 
+// One 16-bit lane for each cell 0..80 and some more, so that passes over the board take whole
+// vectors.
+inline constexpr int kLaneCount = 96;
+struct alignas(32) Lanes : std::array<std::int16_t, kLaneCount> {};
+// What stands in Digit's lanes beyond the board: they count as filled.
+inline constexpr std::int16_t kBeyondTheBoard = -1;
+
 struct SearchLevel {
-  CellDigits Digit{};             // digit placed in the cell, 0 = not placed
+  Lanes Digit{};                  // digit placed in the cell, 0 = not placed
   PerCell<std::int16_t> Order{};  // positions 0..Pos: cells to be filled; above: filled cells
-  MaskBoard Candidates{};         // digits still possible; a trial placement keeps the cell's own
+  Lanes Candidates{};             // digits still possible; a trial placement keeps the cell's own
   PerCell<std::int16_t> LastChoice{};  // -1 when the digit now tried is the cell's highest, else 0
 
   // The log of trial placements, entries 1..UndoCount; entry 0 is never written.

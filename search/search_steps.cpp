@@ -19,10 +19,11 @@ std::optional<Outlook> ExactCoverSearch::PlaceSingle(int Ptr) {
   if (k > Ptr) return std::nullopt;
   const int cell = level.Order[k];
   const Mask bit = level.Candidates[cell];
+  const Outlook outlook = TakeFromPeers(level, lanes_, cell, bit);
   level.Digit[cell] = static_cast<std::int16_t>(std::countr_zero(static_cast<unsigned>(bit)) + 1);
   level.Candidates[cell] = 0;
   std::swap(level.Order[k], level.Order[Ptr]);
-  return TakeFromPeers(level, lanes_, cell, bit);
+  return outlook;
 }
 
 void ExactCoverSearch::DLXRemoveCandidates(int Cell, int Candidate, int RemovePtr) {
@@ -31,12 +32,13 @@ void ExactCoverSearch::DLXRemoveCandidates(int Cell, int Candidate, int RemovePt
 
 Outlook ExactCoverSearch::Remove(int cell, int digit, [[maybe_unused]] int removePtr) {
   SearchLevel& level = Levels[Depth];
-  assert(level.Digit[cell] == digit);
   assert(removePtr < 0 || level.Digit[level.Order[removePtr]] == 0);
   const int u = ++level.UndoCount;
   level.UndoCell[u] = static_cast<std::int16_t>(cell);
   level.UndoDigit[u] = static_cast<std::int16_t>(digit);
-  return TakeFromPeersLogged(level, lanes_, cell, BitOf(digit), u);
+  const Outlook outlook = TakeFromPeersLogged(level, lanes_, cell, BitOf(digit), u);
+  level.Digit[cell] = static_cast<std::int16_t>(digit);
+  return outlook;
 }
 
 void ExactCoverSearch::DLXUndo() {

@@ -1,4 +1,6 @@
 // Whether givens have exactly one completion.
+#include <algorithm>
+
 #include "search/exact_cover_search.h"
 
 namespace tessel {
@@ -24,6 +26,31 @@ class SolutionCount final : public SearchDriver {
   int Solutions() const { return solutions_; }
 };
 
+// The digits that givens use up in each house.
+class UsedDigits {
+ public:
+  explicit UsedDigits(const GameState& state) : state_(state) {}
+
+  Mask FreeAt(int cell) const {
+    const int used =
+        rows_[RowOf(cell)] | columns_[ColumnOf(cell)] | cages_[state_.CageOfCell[cell]];
+    return Without(kAllCandidates, static_cast<Mask>(used));
+  }
+  void Add(int cell, Mask bit) {
+    AddTo(rows_[RowOf(cell)], bit);
+    AddTo(columns_[ColumnOf(cell)], bit);
+    if (state_.CageOfCell[cell] != 0) AddTo(cages_[state_.CageOfCell[cell]], bit);
+  }
+
+ private:
+  static void AddTo(Mask& house, Mask bit) { house = static_cast<Mask>(house | bit); }
+
+  const GameState& state_;
+  std::array<Mask, kSide> rows_{};
+  std::array<Mask, kSide> columns_{};
+  std::array<Mask, kSide + 1> cages_{};  // index 0, for cells in no cage, stays empty
+};
+
 }  // namespace
 
 bool ExactCoverSearch::UniqueSolution() {
@@ -38,24 +65,25 @@ bool ExactCoverSearch::UniqueSolution() {
 bool ExactCoverSearch::StartFromGivens() {
   Reset();
   SearchLevel& level = Levels[0];
+  UsedDigits used(state_);
   int pos = -1;
-  bool sound = true;
   for (int cell = 0; cell < kCellCount; ++cell) {
-    const int given = state_.WorkGrid[cell];
-    level.Digit[cell] = static_cast<std::int16_t>(given > 0 ? given : 0);
-    if (given <= 0) level.Order[++pos] = static_cast<std::int16_t>(cell);
+    const int given = std::max<int>(0, state_.WorkGrid[cell]);
+    level.Digit[cell] = static_cast<std::int16_t>(given);
+    if (given == 0) {
+      level.Order[++pos] = static_cast<std::int16_t>(cell);
+    } else if (given <= kSide && Holds(used.FreeAt(cell), given)) {
+      used.Add(cell, BitOf(given));
+    } else {
+      return false;
+    }
+  }
+  for (int cell = 0; cell < kCellCount; ++cell) {
+    level.Candidates[cell] = level.Digit[cell] == 0 ? used.FreeAt(cell) : Mask{0};
   }
   Pos() = static_cast<std::int16_t>(pos);
   levelStart_[0] = Pos();
-  for (int cell = 0; cell < kCellCount && sound; ++cell) {
-    const int given = state_.WorkGrid[cell];
-    if (given <= 0) continue;
-    sound = given <= kSide && Holds(level.Candidates[cell], given);
-    if (!sound) break;
-    RemoveFromHouses(state_, cell, given, level.Candidates);
-    level.Candidates[cell] = 0;
-  }
-  return sound && !OutlookOf(level).deadEnd;
+  return !OutlookOf(level).deadEnd;
 }
 
 // False when a single leaves another cell without a candidate.

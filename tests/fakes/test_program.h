@@ -11,7 +11,10 @@
 namespace tessel {
 
 struct TestProgram {
-  explicit TestProgram(std::uint64_t firstSeed = 1) : clock(firstSeed) { main.Form_Load(); }
+  explicit TestProgram(std::uint64_t firstSeed = 1, SystemCalls& system = RealSystemCalls())
+      : clock(firstSeed), main(view, player, clock, random, folder.Path().string(), system) {
+    main.Form_Load();
+  }
 
   const Form& form() const { return main.form(); }
   GameState& state() { return main.state(); }
@@ -37,7 +40,7 @@ struct TestProgram {
   FakeSoundPlayer player;
   RecordingView view;
   SeededRandom random;
-  Tessel_Main main{view, player, clock, random, folder.Path().string()};
+  Tessel_Main main;
 };
 
 }  // namespace tessel
