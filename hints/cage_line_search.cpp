@@ -1,23 +1,46 @@
 // The patterns between a cage and a line: pointing pairs and box-line.
+#include "core/cell_set.h"
 #include "hints/pattern_search.h"
 
 namespace tessel {
 
 namespace {
 
-bool ShareLine(int cell, int other) {
-  return RowOf(cell) == RowOf(other) || ColumnOf(cell) == ColumnOf(other);
+constexpr CellSet LinesThrough(int cell) {
+  CellSet lines;
+  for (int k = 0; k < kSide; ++k) {
+    lines = lines | CellSet::Of(CellAt(RowOf(cell), k)) | CellSet::Of(CellAt(k, ColumnOf(cell)));
+  }
+  return lines;
 }
 
-// The lowest cell outside the cage from which the cage's cells at `places` point the digit away.
-std::optional<int> FindPointedCell(const GameState& state, const MaskBoard& masks,
-                                   const House& cage, Positions places, int digit) {
+// Each cell's row and column.
+constexpr PerCell<CellSet> kLinesThrough = [] {
+  PerCell<CellSet> lines;
+  for (int cell = 0; cell < kCellCount; ++cell) lines[cell] = LinesThrough(cell);
+  return lines;
+}();
+
+CellSet CellsWith(const MaskBoard& masks, int digit) {
+  CellSet cells;
   for (int cell = 0; cell < kCellCount; ++cell) {
-    if (state.CageOfCell[cell] == cage.index + 1 || !Holds(masks[cell], digit)) continue;
-    const auto hidden = [&](int k) { return !ShareLine(cell, cage.cells[k]); };
-    if (!AnyOf(places, hidden)) return cell;
+    if (Holds(masks[cell], digit)) cells = cells | CellSet::Of(cell);
   }
-  return std::nullopt;
+  return cells;
+}
+
+// The cells of `holders` outside the cage that share a row or column with each of the cage's
+// holders; none when the cage has no holder.
+CellSet PointedCells(const House& cage, CellSet holders) {
+  CellSet inCage;
+  for (const int cell : cage.cells) inCage = inCage | CellSet::Of(cell);
+  const CellSet pointing = holders & inCage;
+  if (pointing.Empty()) return {};
+  CellSet pointed = holders - inCage;
+  for (const int cell : cage.cells) {
+    if (pointing.Contains(cell)) pointed = pointed & kLinesThrough[cell];
+  }
+  return pointed;
 }
 
 // The cage 1..9 that all the line's cells at `places` lie in.
@@ -34,11 +57,10 @@ std::optional<int> CommonCage(const GameState& state, const House& line, Positio
 std::optional<PointingFind> FindPointingPair(const GameState& state, const MaskBoard& masks) {
   const Houses houses = HousesOf(state);
   for (int digit = 1; digit <= kSide; ++digit) {
+    const CellSet holders = CellsWith(masks, digit);
     for (const House& cage : HousesOfKind(houses, HouseKind::kCage)) {
-      const Positions places = PositionsWith(masks, cage.cells, BitOf(digit));
-      if (places == 0) continue;
-      const auto cell = FindPointedCell(state, masks, cage, places, digit);
-      if (cell) return PointingFind{*cell, cage.index + 1, digit};
+      const CellSet pointed = PointedCells(cage, holders);
+      if (!pointed.Empty()) return PointingFind{pointed.First(), cage.index + 1, digit};
     }
   }
   return std::nullopt;

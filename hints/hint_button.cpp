@@ -1,9 +1,9 @@
 #include "hints/hint_button.h"
 
 #include <array>
-#include <optional>
 
 #include "core/texts.h"
+#include "hints/hint_captions.h"
 #include "hints/hint_messages.h"
 #include "hints/special_pass.h"
 #include "hints/techniques.h"
@@ -18,28 +18,23 @@ struct Rung {
 };
 
 constexpr std::array kLadder{
-    Rung{[](HintTechniques& look) { return look.NakedSingle(); }},
-    Rung{[](HintTechniques& look) { return look.HiddenSingle(); }},
-    Rung{[](HintTechniques& look) { return look.PointingPair(); }},
-    Rung{[](HintTechniques& look) { return look.BoxLine(); }},
-    Rung{[](HintTechniques& look) { return look.NakedHidden(Subset::Naked, {2}); }, "naked pair"},
-    Rung{[](HintTechniques& look) { return look.NakedHidden(Subset::Naked, {3}); }, "naked triple"},
-    Rung{[](HintTechniques& look) { return look.NakedHidden(Subset::Hidden, {2}); }, "hidden pair"},
-    Rung{[](HintTechniques& look) { return look.NakedHidden(Subset::Naked, {4}); }, "naked quad"},
-    Rung{[](HintTechniques& look) { return look.NakedHidden(Subset::Hidden, {3}); },
+    Rung{[](HintTechniques& hints) { return hints.NakedSingle(); }},
+    Rung{[](HintTechniques& hints) { return hints.HiddenSingle(); }},
+    Rung{[](HintTechniques& hints) { return hints.PointingPair(); }},
+    Rung{[](HintTechniques& hints) { return hints.BoxLine(); }},
+    Rung{[](HintTechniques& hints) { return hints.NakedHidden(Subset::Naked, {2}); }, "naked pair"},
+    Rung{[](HintTechniques& hints) { return hints.NakedHidden(Subset::Naked, {3}); },
+         "naked triple"},
+    Rung{[](HintTechniques& hints) { return hints.NakedHidden(Subset::Hidden, {2}); },
+         "hidden pair"},
+    Rung{[](HintTechniques& hints) { return hints.NakedHidden(Subset::Naked, {4}); }, "naked quad"},
+    Rung{[](HintTechniques& hints) { return hints.NakedHidden(Subset::Hidden, {3}); },
          "hidden triple"},
-    Rung{[](HintTechniques& look) { return look.NakedHidden(Subset::Naked, {5}); }, "naked quint"},
-    Rung{[](HintTechniques& look) { return look.XWing(); }},
-    Rung{[](HintTechniques& look) { return look.SwordFish(); }},
+    Rung{[](HintTechniques& hints) { return hints.NakedHidden(Subset::Naked, {5}); },
+         "naked quint"},
+    Rung{[](HintTechniques& hints) { return hints.XWing(); }},
+    Rung{[](HintTechniques& hints) { return hints.SwordFish(); }},
 };
-
-template <typename Predicate>
-std::optional<int> FirstCell(Predicate holds) {
-  for (int cell = 0; cell < kCellCount; ++cell) {
-    if (holds(cell)) return cell;
-  }
-  return std::nullopt;
-}
 
 bool IsWrongDigit(const GameState& state, int cell) {
   const int digit = state.PlayBoard.Board[cell];
@@ -58,49 +53,6 @@ bool LeavesStaleCandidate(const GameState& state, int cell) {
   MaskBoard cleaned = state.Candidates;
   RemoveFromHouses(state, cell, digit, cleaned);
   return cleaned != state.Candidates;
-}
-
-void HighlightHint(const GameState& state, Form& form) {
-  const auto red = kHighlightRed;
-  switch (state.HintKind) {
-    case HintCode::None:
-      break;
-    case HintCode::NakedSingle:
-    case HintCode::HiddenSingleRow:
-    case HintCode::HiddenSingleColumn:
-    case HintCode::HiddenSingleCage:
-    case HintCode::PointingPair:
-      form.HighlightCell(state.HintCell);
-      break;
-    case HintCode::NakedSubsetCage:
-    case HintCode::HiddenSubsetCage:
-      form.HighlightCell(state.CageCells[state.HintUnit3 - 1][0]);
-      break;
-    case HintCode::BoxLineRow:
-    case HintCode::NakedSubsetRow:
-    case HintCode::HiddenSubsetRow:
-      form.SetLabelRow(state.HintUnit1, red);
-      break;
-    case HintCode::BoxLineColumn:
-    case HintCode::NakedSubsetColumn:
-    case HintCode::HiddenSubsetColumn:
-      form.SetLabelColumn(state.HintUnit2, red);
-      break;
-    case HintCode::SwordFishRows:
-      form.SetLabelRow(state.HintUnit3, red);
-      [[fallthrough]];
-    case HintCode::XWingRows:
-      form.SetLabelRow(state.HintUnit1, red);
-      form.SetLabelRow(state.HintUnit2, red);
-      break;
-    case HintCode::SwordFishColumns:
-      form.SetLabelColumn(state.HintUnit3, red);
-      [[fallthrough]];
-    case HintCode::XWingColumns:
-      form.SetLabelColumn(state.HintUnit1, red);
-      form.SetLabelColumn(state.HintUnit2, red);
-      break;
-  }
 }
 
 }  // namespace
@@ -129,9 +81,12 @@ bool HintButton::RevealAssignment() {
 
 bool HintButton::ReportMistake(bool (*isMistaken)(const GameState&, int cell), Sound sound,
                                std::string (*message)(const GameState&, int cell)) {
-  const auto cell = FirstCell([&](int each) { return isMistaken(state_, each); });
-  if (cell) PointAt(*cell, sound, message(state_, *cell));
-  return cell.has_value();
+  for (int cell = 0; cell < kCellCount; ++cell) {
+    if (!isMistaken(state_, cell)) continue;
+    PointAt(cell, sound, message(state_, cell));
+    return true;
+  }
+  return false;
 }
 
 bool HintButton::ClimbLadder() {

@@ -3,6 +3,8 @@
 // subsets in every house.
 #include "hints/hint_messages.h"
 
+#include <vector>
+
 namespace tessel {
 
 namespace {
@@ -22,26 +24,19 @@ std::string SubsetMessage(const std::string& subset, const std::string& house,
   return "A " + subset + " is present in " + house + " and leads to elimination" + tail;
 }
 
-std::string XWingMessage(const GameState& state, const std::string& lines,
-                         const std::string& crossing) {
-  return "Candidate " + std::to_string(state.HintDigit) + " forms an X-Wing pattern in " + lines +
-         ". Elimination(s) can be done in the crossing " + crossing;
+std::string FishMessage(const GameState& state, const std::string& fish, const std::string& lines,
+                        const std::string& crossing) {
+  return "Candidate " + std::to_string(state.HintDigit) + " forms " + fish + " pattern in " +
+         lines + ". Elimination(s) can be done in the crossing " + crossing;
 }
 
-std::string SwordFishMessage(const GameState& state, const std::string& article,
-                             const std::string& lines, const std::string& crossing) {
-  return "Candidate " + std::to_string(state.HintDigit) + " forms " + article +
-         " SwordFish pattern in " + lines + ". Elimination(s) can be done in the crossing " +
-         crossing;
-}
-
-std::string Two(const std::string& kind, const std::string& first, const std::string& second) {
-  return kind + " " + first + " and " + second;
-}
-
-std::string Three(const std::string& kind, const std::string& first, const std::string& second,
-                  const std::string& third) {
-  return Two(kind, first + ", " + second, third);
+// "A and B" or "A, B and C".
+std::string Listed(const std::vector<std::string>& names) {
+  std::string list = names.front();
+  for (std::size_t i = 1; i < names.size(); ++i) {
+    list += (i + 1 == names.size() ? " and " : ", ") + names[i];
+  }
+  return list;
 }
 
 std::string RowHouse(const GameState& state) {
@@ -124,15 +119,17 @@ std::string HintMessage(const GameState& state, const std::string& subset) {
     case HintCode::HiddenSubsetCage:
       return SubsetMessage(subset, CageHouse(state), kOfCandidates);
     case HintCode::XWingRows:
-      return XWingMessage(state, Two("rows", row(unit1), row(unit2)), "columns");
+      return FishMessage(state, "an X-Wing", "rows " + Listed({row(unit1), row(unit2)}), "columns");
     case HintCode::XWingColumns:
-      return XWingMessage(state, Two("columns", column(unit1), column(unit2)), "rows");
+      return FishMessage(state, "an X-Wing", "columns " + Listed({column(unit1), column(unit2)}),
+                         "rows");
     case HintCode::SwordFishRows:
-      return SwordFishMessage(state, "a", Three("rows", row(unit1), row(unit2), row(unit3)),
-                              "columns");
+      return FishMessage(state, "a SwordFish",
+                         "rows " + Listed({row(unit1), row(unit2), row(unit3)}), "columns");
     case HintCode::SwordFishColumns:
-      return SwordFishMessage(
-          state, "an", Three("columns", column(unit1), column(unit2), column(unit3)), "rows");
+      return FishMessage(state, "an SwordFish",
+                         "columns " + Listed({column(unit1), column(unit2), column(unit3)}),
+                         "rows");
   }
   return {};
 }
