@@ -1,0 +1,186 @@
+// The generation buttons work while the solving mode is open.
+#include "tests/shell/disturbance.h"
+#include "tests/shell/enabled_buttons.h"
+#include "tests/shell/solving_test.h"
+
+namespace tessel {
+namespace {
+
+class CommandsWhileSolving : public SolvingTest {
+ protected:
+  // A new layout that is soon sawed and soon filled.
+  void SawIrregular() {
+    program.clock.nextSeed = 19;
+    program.Tick(CheckBox::MakeRegular, false);
+    program.main.Click(Button::CommandSaw);
+  }
+  // Whether two different cells share a row, a column or a cage of the layout as it is now.
+  bool SeeEachOther(int a, int b) {
+    return a != b && (RowOf(a) == RowOf(b) || ColumnOf(a) == ColumnOf(b) ||
+                      state().CageOfCell[a] == state().CageOfCell[b]);
+  }
+  int CellWithAMarkInSight() {
+    for (int cell = 0; cell < kCellCount; ++cell) {
+      for (int digit = 1; digit <= kSide; ++digit) {
+        if (form().Mark(cell, digit).visible &&
+            form().Mark(cell, digit).colour != form().Cell(cell).PaintedBackground()) {
+          return cell;
+        }
+      }
+    }
+    return -1;
+  }
+};
+
+TEST_F(CommandsWhileSolving, TheOldPuzzleGoesOnAfterANewSaw) {
+  Left(kEmpty, 2);
+  const PuzzleRecord board = state().PlayBoard;
+  const MaskBoard candidates = state().Candidates;
+  SawIrregular();
+  EXPECT_EQ(state().PlayBoard, board);
+  EXPECT_EQ(state().Candidates, candidates);
+  EXPECT_TRUE(form().SolveButtonsVisible());
+  EXPECT_TRUE(BoardIsOpen());
+  EXPECT_EQ(EnabledButtons(form()), kLayoutMade);
+  EXPECT_EQ(form().Cell(kGiven).text, 0) << "Saw clears the digits";
+  Right(kOtherEmpty, 1);
+  EXPECT_EQ(form().Cell(kGiven).text, 1) << "the next refresh shows them again";
+  EXPECT_EQ(form().Cell(kEmpty).text, 2);
+}
+
+TEST_F(CommandsWhileSolving, ADigitPlacedAfterANewSawSeesTheNewCages) {
+  SawIrregular();
+  state().Candidates.fill(kAllCandidates);
+  Untick();
+  Left(40, 7);
+  for (int cell = 0; cell < kCellCount; ++cell) {
+    if (cell == 40) continue;
+    EXPECT_EQ(Holds(Candidates(cell), 7), !SeeEachOther(cell, 40)) << cell;
+  }
+}
+
+TEST_F(CommandsWhileSolving, RestartKeepsTheNewCages) {
+  SawIrregular();
+  const auto cages = state().CageOfCell;
+  program.main.Click(Button::CommandRestart);
+  EXPECT_EQ(state().CageOfCell, cages);
+  EXPECT_EQ(state().PlayBoard, KnownPuzzle());
+  for (int cell = 0; cell < kCellCount; ++cell) {
+    Mask expected = IsKnownGiven(cell) ? Mask{0} : kAllCandidates;
+    for (int peer = 0; peer < kCellCount; ++peer) {
+      if (IsKnownGiven(peer) && SeeEachOther(cell, peer)) {
+        expected = Without(expected, BitOf(KnownSolution(peer)));
+      }
+    }
+    EXPECT_EQ(Candidates(cell), expected) << cell;
+  }
+}
+
+TEST_F(CommandsWhileSolving, QuitPaintsTheMarksInTheNewCagesColours) {
+  SawIrregular();
+  program.main.Click(Button::CommandQuit);
+  EXPECT_EQ(CellWithAMarkInSight(), -1);
+  EXPECT_EQ(EnabledButtons(form()), kLayoutMade);
+  EXPECT_FALSE(form().SolveButtonsVisible());
+  EXPECT_EQ(form().Cell(kGiven).text, 1) << "the old puzzle is shown";
+}
+
+TEST_F(CommandsWhileSolving, TheWholeFrameWorksAfterANewSaw) {
+  SawIrregular();
+  for (int round = 0; round < 3; ++round) {
+    program.main.Click(Button::CommandHint);
+    program.main.Toggle(CheckBox::CheckPencilmarks);
+    program.main.Click(Button::CommandHint);
+    program.main.Click(Button::CommandHint);
+    ClickEveryCell(program);
+    program.main.Click(Button::CommandSolution);
+    program.main.Click(Button::CommandRestart);
+  }
+  for (int cell = 0; cell < kCellCount; ++cell) {
+    EXPECT_TRUE(!IsKnownGiven(cell) || Board(cell) == KnownSolution(cell)) << cell;
+  }
+}
+
+TEST_F(CommandsWhileSolving, AFillClearsTheTextsAndDrawsOnTheMarksThatAreShown) {
+  SawIrregular();
+  program.main.Click(Button::CommandGo);
+  for (int cell = 0; cell < kCellCount; ++cell) {
+    EXPECT_EQ(form().Cell(cell).text, 0);
+    EXPECT_EQ(Shown(cell), KnownCandidates(cell)) << "visible or not as the solving mode left it";
+    for (int digit = 1; digit <= kSide; ++digit) {
+      EXPECT_EQ(form().Mark(cell, digit).colour == kBlack, digit == state().WorkGrid[cell]);
+    }
+  }
+}
+
+// Deliberate: what the solving mode has hidden stays hidden until Quit.
+TEST_F(CommandsWhileSolving, MarksHiddenBySolvingStayInvisibleForAFillUntilQuit) {
+  SawIrregular();
+  program.main.Click(Button::CommandGo);
+  const int filled = state().WorkGrid[kGiven];
+  EXPECT_FALSE(form().Mark(kGiven, filled).visible);
+  program.main.Click(Button::CommandQuit);
+  EXPECT_TRUE(form().Mark(kGiven, filled).visible);
+  program.main.Click(Button::CommandGo);
+  for (int cell = 0; cell < kCellCount; ++cell) {
+    EXPECT_TRUE(form().Mark(cell, state().WorkGrid[cell]).visible);
+    EXPECT_EQ(form().Mark(cell, state().WorkGrid[cell]).colour, kBlack);
+  }
+}
+
+TEST_F(CommandsWhileSolving, TheOldBoardGoesOnAfterANewPuzzleUntilRestart) {
+  Left(kEmpty, 2);
+  const PuzzleRecord board = state().PlayBoard;
+  SawIrregular();
+  program.main.Click(Button::CommandGo);
+  program.main.Click(Button::CommandConceal);
+  ASSERT_EQ(EnabledButtons(form()), kPuzzleConcealed);
+  EXPECT_EQ(state().PlayBoard, board);
+  EXPECT_NE(state().SavedPuzzle, KnownPuzzle());
+  program.main.Click(Button::CommandRestart);
+  EXPECT_EQ(state().PlayBoard, state().SavedPuzzle);
+}
+
+// The givens are those of the saved puzzle: a cell that was a given of the old board may be empty
+// in the new puzzle and can then be taken out.
+TEST_F(CommandsWhileSolving, TheGivensAreThoseOfTheNewPuzzle) {
+  SawIrregular();
+  program.main.Click(Button::CommandGo);
+  program.main.Click(Button::CommandConceal);
+  for (int cell = 0; cell < kCellCount; ++cell) {
+    const int before = Board(cell);
+    Middle(cell);
+    EXPECT_EQ(Board(cell), state().SavedPuzzle.Board[cell] != 0 ? before : 0) << cell;
+  }
+}
+
+TEST_F(CommandsWhileSolving, SolveOpensTheNewPuzzleOverTheOldOne) {
+  Left(kEmpty, 2);
+  SawIrregular();
+  program.main.Click(Button::CommandGo);
+  program.main.Click(Button::CommandConceal);
+  program.main.Click(Button::CommandSolve);
+  EXPECT_EQ(state().PlayBoard, state().SavedPuzzle);
+  for (int cell = 0; cell < kCellCount; ++cell) {
+    EXPECT_EQ(form().Cell(cell).text, state().SavedPuzzle.Board[cell]);
+    EXPECT_EQ(Shown(cell), Candidates(cell));
+  }
+}
+
+TEST_F(CommandsWhileSolving, AFinishedBoardStaysFinished) {
+  program.main.Click(Button::CommandSolution);
+  SawIrregular();
+  EXPECT_FALSE(BoardIsOpen());
+  ExpectNothingHappens([&] { Left(kEmpty, 2); });
+}
+
+TEST_F(CommandsWhileSolving, APendingAssignmentOutlivesACommand) {
+  Announce(40);
+  SawIrregular();
+  ExpectPending(true);
+  program.main.Click(Button::CommandHint);
+  ExpectPending(false);
+}
+
+}  // namespace
+}  // namespace tessel
