@@ -6,18 +6,16 @@ namespace tessel {
 
 namespace {
 
-constexpr CellSet LinesThrough(int cell) {
-  CellSet lines;
-  for (int k = 0; k < kSide; ++k) {
-    lines = lines | CellSet::Of(CellAt(RowOf(cell), k)) | CellSet::Of(CellAt(k, ColumnOf(cell)));
-  }
-  return lines;
-}
-
 // Each cell's row and column.
 constexpr PerCell<CellSet> kLinesThrough = [] {
   PerCell<CellSet> lines;
-  for (int cell = 0; cell < kCellCount; ++cell) lines[cell] = LinesThrough(cell);
+  for (int cell = 0; cell < kCellCount; ++cell) {
+    for (int k = 0; k < kSide; ++k) {
+      const CellSet inRow = CellSet::Of(CellAt(RowOf(cell), k));
+      const CellSet inColumn = CellSet::Of(CellAt(k, ColumnOf(cell)));
+      lines[cell] = lines[cell] | inRow | inColumn;
+    }
+  }
   return lines;
 }();
 
