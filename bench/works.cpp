@@ -35,8 +35,8 @@ const char* NameOf(LayoutKind kind) {
   return "";
 }
 
-void Append(std::vector<std::int16_t>& results, std::span<const std::int16_t> values) {
-  results.insert(results.end(), values.begin(), values.end());
+void Append(std::vector<std::int16_t>& results, std::span<const std::int16_t> board) {
+  results.insert(results.end(), board.begin(), board.begin() + kCellCount);
 }
 
 // A layout with a solution of it.
