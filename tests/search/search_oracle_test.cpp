@@ -48,9 +48,10 @@ class LimitedDriver final : public SearchDriver {
 };
 
 testing::AssertionResult SameLevel(const SearchLevel& level, const LiteralLevel& literal) {
-  if (level.Digit != literal.Digit) return testing::AssertionFailure() << "Digit";
+  if (OnBoard(level.Digit) != literal.Digit) return testing::AssertionFailure() << "Digit";
   if (level.Order != literal.Order) return testing::AssertionFailure() << "Order";
-  if (level.Candidates != literal.Candidates) return testing::AssertionFailure() << "Candidates";
+  if (OnBoard(level.Candidates) != literal.Candidates)
+    return testing::AssertionFailure() << "Candidates";
   if (level.LastChoice != literal.LastChoice) return testing::AssertionFailure() << "LastChoice";
   if (level.UndoCount != literal.UndoCount) return testing::AssertionFailure() << "UndoCount";
   for (int u = 1; u <= level.UndoCount; ++u) {

@@ -1,6 +1,8 @@
 // The search, the fill and the concealing with everything around them, on a layout.
 #pragma once
 
+#include <algorithm>
+
 #include "core/random_source.h"
 #include "search/conceal.h"
 #include "search/fill.h"
@@ -10,6 +12,14 @@
 #include "tests/oracle/search/oracle_board.h"
 
 namespace tessel {
+
+// The lanes of the board's cells.
+template <typename CellLanes>
+CellDigits OnBoard(const CellLanes& lanes) {
+  CellDigits cells;
+  std::copy_n(lanes.begin(), kCellCount, cells.begin());
+  return cells;
+}
 
 struct SearchRig {
   explicit SearchRig(const oracle::Layout& layout = oracle::RegularLayout(), std::uint64_t seed = 1)
