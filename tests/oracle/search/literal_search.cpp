@@ -212,7 +212,8 @@ void LiteralSearch::PropagateSingles(Driver driver) {
 }
 
 LiteralSearch::Ending LiteralSearch::SearchLoop(Driver driver, long limit) {
-  for (long iteration = 0; iteration < limit; ++iteration) {
+  const long pumpsBefore = pumps;
+  while (true) {
     ++iterations;
     // The top level is exhausted: it is dropped with the singles below it.
     if (Pos() > Start()) {
@@ -232,6 +233,7 @@ LiteralSearch::Ending LiteralSearch::SearchLoop(Driver driver, long limit) {
       StopRequested = false;
       return Ending::kStopped;
     }
+    if (pumps - pumpsBefore > limit) return Ending::kLimit;
     // A cell without a digit is chosen anew; one with a digit takes its next.
     const bool revisit = Top().Digit[Top().Order[Pos()]] != 0;
     if (revisit) {
@@ -247,7 +249,6 @@ LiteralSearch::Ending LiteralSearch::SearchLoop(Driver driver, long limit) {
     }
     PropagateSingles(driver);
   }
-  return Ending::kLimit;
 }
 
 LiteralSearch::End LiteralSearch::GenerateTessel(const Grid& order, long limit) {

@@ -37,8 +37,9 @@ class LiteralSearch {
 
   explicit LiteralSearch(const Layout& layout);
 
-  // Searches the empty layout, whose cells are taken in `order`. kLimit when the search needs more
-  // than `limit` iterations; the solution of kSolved stands in Levels[Depth].Digit.
+  // Searches the empty layout, whose cells are taken in `order`. kLimit at the pump after `limit`
+  // others: passes that only drop a level are not limited. The solution of kSolved stands in
+  // Levels[Depth].Digit.
   End GenerateTessel(const Grid& order, long limit = kNoLimit);
   // Nothing when, without repairs, the steps break down: they choose a cell without a candidate.
   std::optional<bool> UniqueSolution(const Grid& workGrid, Repairs repairs = Repairs::kOn);

@@ -33,6 +33,7 @@ TryOutResult TryOrders(const Layout& layout, RandomSource& random, long limit, i
     }
   }
   result.iterations = search.iterations;
+  result.pumps = search.pumps;
   return result;
 }
 

@@ -17,8 +17,9 @@ struct TryOutResult {
   std::optional<Grid> solution;  // nothing when no try ended within the limit
   Grid order{};                  // of the last try
   long iterations = 0;           // of all tries
+  long pumps = 0;                // of all tries
 };
-// Draws orders until the search of one ends in a solution within `limit` iterations.
+// Draws orders until the search of one ends in a solution within `limit` pumps.
 TryOutResult TryOrders(const Layout& layout, RandomSource& random, long limit, int tries);
 
 // A solution of the layout; nothing when the layout most likely has none.

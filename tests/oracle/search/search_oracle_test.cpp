@@ -149,7 +149,7 @@ TEST(LiteralSearch, EndsAtTheLimitOrWhenStopped) {
 
   LiteralSearch search(layout);
   EXPECT_EQ(search.GenerateTessel(found.order), LiteralSearch::End::kSolved);
-  const long needed = search.iterations;
+  const long needed = search.pumps;
   EXPECT_EQ(search.GenerateTessel(found.order, needed), LiteralSearch::End::kSolved);
   EXPECT_EQ(search.GenerateTessel(found.order, needed - 1), LiteralSearch::End::kLimit);
   search.onPump = [&, left = 5]() mutable { search.StopRequested = --left == 0; };
