@@ -12,7 +12,7 @@ namespace {
 constexpr int kLeastSide = 12;
 constexpr double kLeastCaptionPoints = 14.0;
 constexpr double kCaptionShare = 0.36;  // of the cell side, once that is more
-constexpr double kBandShare = 1.6;      // of the caption's size: the caption, its arrow, air
+constexpr double kBandShare = 1.45;     // of the caption's size: the caption, its arrow, air
 constexpr int kMarksInLine = 3;
 
 }  // namespace
@@ -36,7 +36,7 @@ void BoardGeometry::TakeSide(int side, double scale, double pixelsPerPoint) {
   captionPixels_ =
       std::max(qCeil(kLeastCaptionPoints * pixelsPerPoint), qRound(kCaptionShare * side));
   band_ = qRound(kBandShare * captionPixels_);
-  margin_ = border_ + qRound(6 * scale);
+  margin_ = border_ + qRound(3 * scale);
 }
 
 QRect BoardGeometry::BoardRect() const {

@@ -72,52 +72,67 @@ BoardPainter::BoardPainter(const Form& form, const GameState& state, const Board
       markFont_(SizedFont(font, qRound(kMarkShare * geometry.CellSide()), false)),
       captionFont_(SizedFont(font, geometry.CaptionPixels(), true)) {}
 
+// Outlines lie under the text, so that they never hide a mark, and borders over everything.
 void BoardPainter::Paint(QPainter& painter, const QRegion& region,
                          const BoardPointers& pointers) const {
   painter.setClipRegion(region);
-  painter.fillRect(geometry_.PanelRect(), ToColour(kBoardColour));
   if (!region.subtracted(geometry_.BoardRect()).isEmpty()) PaintCaptions(painter);
+  const auto touched = [&](int cell) { return region.intersects(geometry_.CellRect(cell)); };
   for (int cell = 0; cell < kCellCount; ++cell) {
-    if (region.intersects(geometry_.CellRect(cell))) PaintCell(painter, cell);
+    const Rgb ground = form_.Cell(cell).PaintedBackground();
+    if (touched(cell)) painter.fillRect(geometry_.CellRect(cell), ToColour(ground));
   }
-  PaintLines(painter, region);
+  PaintLines(painter, region, Line::kThin);
   PaintPointers(painter, pointers);
+  for (int cell = 0; cell < kCellCount; ++cell) {
+    if (touched(cell)) PaintText(painter, cell);
+  }
+  PaintLines(painter, region, Line::kBorder);
 }
 
 void BoardPainter::PaintCaptions(QPainter& painter) const {
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(ToColour(kBoardColour));
+  const double radius = geometry_.CaptionPixels() / 3.0;
+  painter.drawRoundedRect(geometry_.PanelRect(), radius, radius);
   painter.setFont(captionFont_);
-  const int arrow = geometry_.CaptionPixels() / 4;
-  const auto paint = [&](const QRect& place, QChar text, Rgb colour, QPoint tip, QPoint across) {
-    painter.setPen(ToColour(colour));
-    DrawCentred(painter, place, text);
-    if (colour != kHighlightRed) return;
-    // The second cue for readers who cannot tell red from black: an arrow towards the line.
-    const QPoint along = (place.center() - tip).x() == 0 ? QPoint(0, arrow) : QPoint(arrow, 0);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(ToColour(colour));
-    painter.drawPolygon(QPolygon({tip, tip - along - across, tip - along + across}));
-  };
   for (int line = 0; line < kSide; ++line) {
-    const QRect row = geometry_.RowCaptionRect(line).adjusted(0, 0, -arrow, 0);
-    const QRect column = geometry_.ColumnCaptionRect(line).adjusted(0, 0, 0, -arrow);
-    paint(row, QChar(state_.AxisLetters[line]), form_.LabelRow(line),
-          {row.right() + arrow, row.center().y()}, {0, arrow});
-    paint(column, QChar('1' + line), form_.LabelColumn(line),
-          {column.center().x(), column.bottom() + arrow}, {arrow, 0});
+    PaintCaption(painter, geometry_.RowCaptionRect(line), QChar(state_.AxisLetters[line]),
+                 form_.LabelRow(line), {1, 0});
+    PaintCaption(painter, geometry_.ColumnCaptionRect(line), QChar('1' + line),
+                 form_.LabelColumn(line), {0, 1});
   }
+  painter.setRenderHint(QPainter::Antialiasing, false);
 }
 
-void BoardPainter::PaintCell(QPainter& painter, int cell) const {
-  const CellLook& look = form_.Cell(cell);
-  const QRect place = geometry_.CellRect(cell);
-  painter.fillRect(place, ToColour(look.PaintedBackground()));
+// A red caption also gets an arrow towards its line, for readers who cannot tell red from black.
+void BoardPainter::PaintCaption(QPainter& painter, const QRect& place, QChar text, Rgb colour,
+                                QPoint towardsLine) const {
+  const int arrow = geometry_.CaptionPixels() / 4;
+  const QPoint room = arrow * towardsLine;
+  const QRect textPlace = place.adjusted(0, 0, -room.x(), -room.y());
+  painter.setPen(ToColour(colour));
+  DrawCentred(painter, textPlace, text);
+  if (colour != kHighlightRed) return;
+  const QPoint across = arrow * towardsLine.transposed();
+  const QPoint half(textPlace.width() / 2 * towardsLine.x(),
+                    textPlace.height() / 2 * towardsLine.y());
+  const QPoint base = textPlace.center() + half;
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(ToColour(colour));
+  painter.drawPolygon(QPolygon({base + room, base - across, base + across}));
+}
+
+void BoardPainter::PaintText(QPainter& painter, int cell) const {
   PaintMarks(painter, cell);
-  if (look.text == 0) return;
+  const int digit = form_.Cell(cell).text;
+  if (digit == 0) return;
   QFont font = digitFont_;
   font.setBold(!IsEntry(form_, state_, cell));
   painter.setFont(font);
   painter.setPen(Qt::black);
-  DrawCentred(painter, place, DigitText(look.text));
+  DrawCentred(painter, geometry_.CellRect(cell), DigitText(digit));
 }
 
 void BoardPainter::PaintMarks(QPainter& painter, int cell) const {
@@ -133,36 +148,34 @@ void BoardPainter::PaintMarks(QPainter& painter, int cell) const {
   }
 }
 
-// Thin lines first: where a border and a thin line meet, the border is on top.
-void BoardPainter::PaintLines(QPainter& painter, const QRegion& region) const {
+void BoardPainter::PaintLines(QPainter& painter, const QRegion& region, Line line) const {
   const int reach = geometry_.BorderWidth();
   const QRect near = region.boundingRect().adjusted(-reach, -reach, reach, reach);
-  for (const bool border : {false, true}) {
-    for (int cell = 0; cell < kCellCount; ++cell) {
-      if (near.intersects(geometry_.CellRect(cell))) PaintEdges(painter, cell, border);
-    }
+  for (int cell = 0; cell < kCellCount; ++cell) {
+    if (near.intersects(geometry_.CellRect(cell))) PaintEdges(painter, cell, line);
   }
 }
 
 // The edges of the cell's left and upper side, and of the frame's other two sides.
-void BoardPainter::PaintEdges(QPainter& painter, int cell, bool border) const {
+void BoardPainter::PaintEdges(QPainter& painter, int cell, Line line) const {
   const QRect place = geometry_.CellRect(cell);
+  const bool border = line == Line::kBorder;
   const int width = border ? geometry_.BorderWidth() : geometry_.LineWidth();
   const int before = border ? width / 2 : 0;
-  const QColor colour = border ? QColor(Qt::black) : kInnerLine;
-  const auto isBorder = [&](bool hasNeighbour, int neighbour) {
-    return !hasNeighbour ||
-           form_.Cell(cell).PaintedBackground() != form_.Cell(neighbour).PaintedBackground();
-  };
   const int overlap = border ? width : 0;
+  const QColor colour = border ? QColor(Qt::black) : kInnerLine;
   const auto upright = [&](int x) {
     painter.fillRect(x - before, place.top() - before, width, place.height() + overlap, colour);
   };
   const auto level = [&](int y) {
     painter.fillRect(place.left() - before, y - before, place.width() + overlap, width, colour);
   };
-  if (isBorder(ColumnOf(cell) > 0, cell - 1) == border) upright(place.left());
-  if (isBorder(RowOf(cell) > 0, cell - kSide) == border) level(place.top());
+  const auto isBorder = [&](bool atFrame, int neighbour) {
+    return atFrame ||
+           form_.Cell(cell).PaintedBackground() != form_.Cell(neighbour).PaintedBackground();
+  };
+  if (isBorder(ColumnOf(cell) == 0, cell - 1) == border) upright(place.left());
+  if (isBorder(RowOf(cell) == 0, cell - kSide) == border) level(place.top());
   if (border && ColumnOf(cell) == kSide - 1) upright(place.left() + place.width());
   if (border && RowOf(cell) == kSide - 1) level(place.top() + place.height());
 }

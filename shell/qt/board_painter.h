@@ -35,11 +35,16 @@ class BoardPainter {
   void Paint(QPainter& painter, const QRegion& region, const BoardPointers& pointers) const;
 
  private:
+  // Between two cells of one ground, or between two grounds and round the board.
+  enum class Line { kThin, kBorder };
+
   void PaintCaptions(QPainter& painter) const;
-  void PaintCell(QPainter& painter, int cell) const;
+  void PaintCaption(QPainter& painter, const QRect& place, QChar text, Rgb colour,
+                    QPoint towardsLine) const;
+  void PaintText(QPainter& painter, int cell) const;
   void PaintMarks(QPainter& painter, int cell) const;
-  void PaintLines(QPainter& painter, const QRegion& region) const;
-  void PaintEdges(QPainter& painter, int cell, bool border) const;
+  void PaintLines(QPainter& painter, const QRegion& region, Line line) const;
+  void PaintEdges(QPainter& painter, int cell, Line line) const;
   QRegion RegionOf(const auto& contains) const;
   void PaintPointers(QPainter& painter, const BoardPointers& pointers) const;
 

@@ -4,6 +4,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QtMath>
+#include <algorithm>
+#include <utility>
 
 #include "shell/qt/board_accessible.h"
 
@@ -60,12 +62,12 @@ std::optional<Step> StepOf(int key) {
 }  // namespace
 
 BoardWidget::BoardWidget(QWidget* parent) : QWidget(parent) {
+  BoardAccessible::Install();  // before anything that lets Qt ask for the interface
   setObjectName("Board");
   setAccessibleName(tr("Board"));
   setFocusPolicy(Qt::StrongFocus);
   setMouseTracking(true);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-  BoardAccessible::Install();
 }
 
 BoardWidget::~BoardWidget() = default;

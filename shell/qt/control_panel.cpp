@@ -55,8 +55,12 @@ constexpr BoxPlan kBoxPlans[] = {
 constexpr char kLongHint[] =
     "The cells in column 8 containing candidate 8 all belong to the same cage, therefore that "
     "candidate can be removed from the other cells of that cage";
-constexpr int kHintPadding = 6;
-constexpr int kSpacing = 6;
+constexpr int kHintPadding = 5;
+// The narrowest hint box of each arrangement.
+constexpr int kHintWidthBeside = 230;
+constexpr int kHintWidthBelow = 270;
+constexpr int kWideSpacing = 8;
+constexpr int kTightSpacing = 5;
 
 QString WithKeys(const char* tip, const char* keys) {
   return QString::fromUtf8(tip) + "\n" + QKeySequence(keys).toString(QKeySequence::NativeText);
@@ -78,10 +82,11 @@ struct Place {
   int rows = 1;
 };
 
-QGridLayout* LayOut(QWidget* parent, const std::vector<Place>& places) {
+QGridLayout* LayOut(QWidget* parent, int margin, int spacing, const std::vector<Place>& places) {
   delete parent->layout();
   auto* grid = new QGridLayout(parent);
-  grid->setSpacing(kSpacing);
+  grid->setContentsMargins(margin, margin, margin, margin);
+  grid->setSpacing(spacing);
   for (const Place& place : places) {
     grid->addWidget(place.widget, place.row, place.column, place.rows, place.columns);
   }
@@ -97,6 +102,7 @@ int HintHeight(const QLabel& label, int width) {
 }  // namespace
 
 ControlPanel::ControlPanel(QWidget* parent) : QWidget(parent) {
+  generation_ = new QFrame(this);
   solveButtons_ = new QFrame(this);
   solveButtons_->setObjectName("SolveButtons");
   solveButtons_->setAccessibleName("Solving");
@@ -122,7 +128,7 @@ ControlPanel::ControlPanel(QWidget* parent) : QWidget(parent) {
 
 void ControlPanel::MakeButtons() {
   for (const ButtonPlan& plan : kButtonPlans) {
-    QWidget* parent = IsSolveButton(plan.button) ? static_cast<QWidget*>(solveButtons_) : this;
+    QFrame* parent = IsSolveButton(plan.button) ? solveButtons_ : generation_;
     auto* button = new QPushButton(parent);
     button->setObjectName(plan.name);
     button->setToolTip(WithKeys(plan.tip, plan.keys));
@@ -135,7 +141,7 @@ void ControlPanel::MakeButtons() {
 
 void ControlPanel::MakeBoxes() {
   for (const BoxPlan& plan : kBoxPlans) {
-    QWidget* parent = IsSolveButton(plan.box) ? static_cast<QWidget*>(solveButtons_) : this;
+    QFrame* parent = IsSolveButton(plan.box) ? solveButtons_ : generation_;
     auto* box = new QCheckBox(QString::fromUtf8(plan.caption), parent);
     box->setObjectName(plan.name);
     box->setToolTip(WithKeys(plan.tip, plan.keys));
@@ -206,59 +212,66 @@ void ControlPanel::Measure() {
 void ControlPanel::Arrange(Arrangement arrangement) {
   if (arrangement == arrangement_ && layout() != nullptr) return;
   arrangement_ = arrangement;
-  const auto button = [this](Button which) { return Of(which); };
-  const auto box = [this](CheckBox which) { return Of(which); };
-  QPushButton* const hint = button(Button::CommandHint);
-  QPushButton* const restart = button(Button::CommandRestart);
-  QPushButton* const solution = button(Button::CommandSolution);
-  QPushButton* const quit = button(Button::CommandQuit);
-  QCheckBox* const update = box(CheckBox::CheckPencilmarks);
   if (arrangement == Arrangement::kBeside) {
-    LayOut(solveButtons_, {{hint, 0, 0, 2},
-                           {textHint_, 1, 0, 2},
-                           {update, 2, 0, 2},
-                           {restart, 3, 0},
-                           {solution, 3, 1},
-                           {quit, 4, 0, 2}});
-    QGridLayout* grid = LayOut(this, {{button(Button::CommandSaw), 0, 0},
-                                      {box(CheckBox::Rotational), 0, 1},
-                                      {box(CheckBox::MakeRegular), 1, 1},
-                                      {button(Button::CommandGo), 2, 0},
-                                      {box(CheckBox::CheckVisualize), 2, 1},
-                                      {button(Button::CommandConceal), 3, 0},
-                                      {box(CheckBox::ConcealRotational), 3, 1},
-                                      {button(Button::CommandSolve), 4, 0},
-                                      {solveButtons_, 5, 0, 2},
-                                      {help_, 7, 0},
-                                      {button(Button::CommandExit), 7, 1}});
-    grid->setRowStretch(6, 1);
-    grid->setColumnStretch(1, 1);
-    grid->setContentsMargins(0, 0, 0, 0);
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+    ArrangeBeside();
   } else {
-    LayOut(solveButtons_, {{hint, 0, 0},
-                           {restart, 0, 1},
-                           {solution, 1, 0},
-                           {quit, 1, 1},
-                           {update, 2, 0, 2},
-                           {textHint_, 0, 2, 1, 3}})
-        ->setColumnStretch(2, 1);
-    QGridLayout* grid = LayOut(this, {{button(Button::CommandSaw), 0, 0},
-                                      {button(Button::CommandGo), 0, 1},
-                                      {button(Button::CommandConceal), 0, 2},
-                                      {button(Button::CommandSolve), 0, 3},
-                                      {help_, 0, 4},
-                                      {button(Button::CommandExit), 0, 5},
-                                      {box(CheckBox::Rotational), 1, 0, 3},
-                                      {box(CheckBox::CheckVisualize), 1, 3, 3},
-                                      {box(CheckBox::MakeRegular), 2, 0, 3},
-                                      {box(CheckBox::ConcealRotational), 2, 3, 3},
-                                      {solveButtons_, 3, 0, 6}});
-    grid->setContentsMargins(0, 0, 0, 0);
-    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    ArrangeBelow();
   }
-  textHint_->setFixedHeight(
-      HintHeight(*textHint_, arrangement == Arrangement::kBeside ? 240 : 270));
+}
+
+void ControlPanel::ArrangeBeside() {
+  generation_->setFrameShape(QFrame::StyledPanel);
+  LayOut(generation_, kWideSpacing, kWideSpacing,
+         {{Of(Button::CommandSaw), 0, 0},
+          {Of(CheckBox::Rotational), 0, 1},
+          {Of(CheckBox::MakeRegular), 1, 1},
+          {Of(Button::CommandGo), 2, 0},
+          {Of(CheckBox::CheckVisualize), 2, 1},
+          {Of(Button::CommandConceal), 3, 0},
+          {Of(CheckBox::ConcealRotational), 3, 1},
+          {Of(Button::CommandSolve), 4, 0}})
+      ->setColumnStretch(1, 1);
+  LayOut(solveButtons_, kWideSpacing, kWideSpacing,
+         {{Of(Button::CommandHint), 0, 0, 2},
+          {textHint_, 1, 0, 2},
+          {Of(CheckBox::CheckPencilmarks), 2, 0, 2},
+          {Of(Button::CommandRestart), 3, 0},
+          {Of(Button::CommandSolution), 3, 1},
+          {Of(Button::CommandQuit), 4, 0, 2}});
+  LayOut(this, 0, kWideSpacing,
+         {{generation_, 0, 0, 2},
+          {solveButtons_, 1, 0, 2},
+          {help_, 3, 0},
+          {Of(Button::CommandExit), 3, 1}})
+      ->setRowStretch(2, 1);
+  textHint_->setFixedHeight(HintHeight(*textHint_, kHintWidthBeside));
+  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+}
+
+void ControlPanel::ArrangeBelow() {
+  generation_->setFrameShape(QFrame::NoFrame);
+  LayOut(generation_, 0, kTightSpacing,
+         {{Of(Button::CommandSaw), 0, 0},
+          {Of(Button::CommandGo), 0, 1},
+          {Of(Button::CommandConceal), 0, 2},
+          {Of(Button::CommandSolve), 0, 3},
+          {help_, 0, 4},
+          {Of(Button::CommandExit), 0, 5},
+          {Of(CheckBox::Rotational), 1, 0, 3},
+          {Of(CheckBox::CheckVisualize), 1, 3, 3},
+          {Of(CheckBox::MakeRegular), 2, 0, 3},
+          {Of(CheckBox::ConcealRotational), 2, 3, 3}});
+  LayOut(solveButtons_, kTightSpacing, kTightSpacing,
+         {{Of(Button::CommandHint), 0, 0},
+          {Of(Button::CommandRestart), 0, 1},
+          {Of(Button::CommandSolution), 1, 0},
+          {Of(Button::CommandQuit), 1, 1},
+          {Of(CheckBox::CheckPencilmarks), 2, 0, 2},
+          {textHint_, 0, 2, 1, 3}})
+      ->setColumnStretch(2, 1);
+  LayOut(this, 0, kTightSpacing, {{generation_, 0, 0}, {solveButtons_, 1, 0}});
+  textHint_->setFixedHeight(HintHeight(*textHint_, kHintWidthBelow));
+  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
 
 void ControlPanel::changeEvent(QEvent* event) {

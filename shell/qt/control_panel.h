@@ -53,11 +53,14 @@ class ControlPanel final : public QWidget {
   void MakeBoxes();
   void MakeHelp();
   void Measure();
+  void ArrangeBeside();
+  void ArrangeBelow();
   void MarkRunning(Button button, bool running);
 
   std::array<QPushButton*, kButtonCount> buttons_{};
   std::array<QCheckBox*, kCheckBoxCount> boxes_{};
   QPushButton* help_ = nullptr;
+  QFrame* generation_ = nullptr;
   QFrame* solveButtons_ = nullptr;
   QLabel* textHint_ = nullptr;
   Arrangement arrangement_ = Arrangement::kBeside;

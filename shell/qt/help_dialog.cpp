@@ -62,7 +62,7 @@ HelpDialog::HelpDialog(QWidget* parent) : QDialog(parent) {
   auto* column = new QVBoxLayout(this);
   column->addWidget(page);
   column->addWidget(buttons);
-  resize(620, 640);
+  resize(700, 720);
 }
 
 }  // namespace tessel

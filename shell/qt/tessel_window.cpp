@@ -28,7 +28,8 @@ TesselWindow::TesselWindow()
   setWindowIcon(AppIcon());
   setMinimumSize(kLeastWindow);
   // Styles that show the focus only after a Tab key shall always show it.
-  setAttribute(Qt::WA_KeyboardFocusChange);
+  connect(qApp, &QApplication::focusChanged, this,
+          [this] { setAttribute(Qt::WA_KeyboardFocusChange); });
   notice_->setObjectName("Notice");
   notice_->setTextFormat(Qt::PlainText);
   notice_->setWordWrap(true);
@@ -137,13 +138,16 @@ void TesselWindow::Sync() {
   if (std::exchange(changedControls_, false)) SyncControls();
 }
 
-// A control that is about to be disabled hands the focus to the board before Qt gives it to a
-// neighbour that the player did not choose.
+// A disabled control hands the focus on: to the running command's "Stop", or to the board. Qt would
+// give it to a neighbour that the player did not choose.
 void TesselWindow::SyncControls() {
   const Form& form = logic_->form();
   QWidget* const focused = focusWidget();
   panel_->Show(form, running_);
-  if (focused != nullptr && focused != focusWidget()) board_->setFocus();
+  if (focused != nullptr && focused != focusWidget()) {
+    QWidget* const stop = running_ ? panel_->Of(*running_) : nullptr;
+    (stop != nullptr && stop->isEnabled() ? stop : board_)->setFocus(Qt::TabFocusReason);
+  }
   setWindowTitle(QString::fromStdString(form.Caption()));
   notice_->setText(QString::fromStdString(form.Notice()));
 }
