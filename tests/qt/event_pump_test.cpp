@@ -1,0 +1,31 @@
+#include "shell/qt/event_pump.h"
+
+#include <gtest/gtest.h>
+
+namespace tessel {
+namespace {
+
+TEST(EventPump, FrameIsDueAtOnce) {
+  EventPump pump;
+  pump.WantFrame();
+  EXPECT_TRUE(pump.Due());
+  EXPECT_TRUE(pump.Due()) << "until it was delivered";
+}
+
+TEST(EventPump, NothingIsDueRightAfterARound) {
+  EventPump pump;
+  pump.WantFrame();
+  pump.Done();
+  for (int i = 0; i < 15; ++i) EXPECT_FALSE(pump.Due());
+}
+
+TEST(EventPump, QuietWorkIsInterruptedAgainAndAgain) {
+  EventPump pump;
+  for (int round = 0; round < 3; ++round) {
+    while (!pump.Due()) continue;
+    pump.Done();
+  }
+}
+
+}  // namespace
+}  // namespace tessel

@@ -1,0 +1,133 @@
+// The window as it is seen, compared with what the form says.
+#include <gtest/gtest.h>
+
+#include "tests/qt/painted_board.h"
+#include "tests/qt/window_program.h"
+
+namespace tessel {
+namespace {
+
+QImage Seen(QWidget& widget) {
+  QCoreApplication::processEvents();
+  return widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+// The board's part of the window, and the form painted anew in the same place.
+void ExpectBoardShowsTheForm(WindowProgram& program) {
+  program.Push("CommandSaw")->setFocus();
+  BoardWidget& board = *program.Board();
+  const QImage seen = Seen(board);
+  const BoardGeometry geometry = board.Geometry();
+  QImage expected = seen;
+  QPainter painter(&expected);
+  painter.scale(1 / board.devicePixelRatioF(), 1 / board.devicePixelRatioF());
+  BoardPainter(program.form(), program.state(), geometry, board.font())
+      .Paint(painter, geometry.BoardRect(), {});
+  EXPECT_EQ(seen.copy(geometry.BoardRect()), expected.copy(geometry.BoardRect()));
+}
+
+TEST(Look, BoardShowsTheFormInEveryStageAtEverySize) {
+  for (const QSize size : {QSize(480, 520), QSize(901, 643), QSize(1600, 1200)}) {
+    WindowProgram program(size);
+    ExpectBoardShowsTheForm(program);
+    for (const char* command : {"CommandSaw", "CommandGo", "CommandConceal", "CommandSolve",
+                                "CommandHint", "CommandSolution", "CommandRestart"}) {
+      program.Click(command);
+      ExpectBoardShowsTheForm(program);
+    }
+  }
+}
+
+TEST(Look, UpdatesLeaveNoTraces) {
+  WindowProgram program;
+  program.OpenPuzzle();
+  program.window.show();
+  QImage updated(program.window.size() * program.window.devicePixelRatioF(), QImage::Format_RGB32);
+  int events = 0;
+  for (int cell = 0; cell < kCellCount && events < 30; ++cell) {
+    if (program.form().Cell(cell).text != 0) continue;
+    program.ClickMark(cell, program.SolutionAt(cell));
+    ++events;
+  }
+  ExpectBoardShowsTheForm(program);
+}
+
+TEST(Look, BordersAreSharp) {
+  WindowProgram program(QSize(733, 601));
+  program.Click("CommandSaw");
+  program.Push("CommandSaw")->setFocus();
+  BoardWidget& board = *program.Board();
+  const QImage seen = Seen(board);
+  const BoardGeometry geometry = board.Geometry();
+  EXPECT_EQ(geometry.CellSide() % 3, 0);
+  for (int cell = 0; cell < kCellCount; ++cell) {
+    if (ColumnOf(cell) == kSide - 1) continue;
+    const QRect right = geometry.CellRect(cell + 1);
+    const int y = right.top() + geometry.CellSide() / 2;
+    const int left = right.left() - geometry.BorderWidth() / 2;
+    const bool border = program.state().CageOfCell[static_cast<std::size_t>(cell)] !=
+                        program.state().CageOfCell[static_cast<std::size_t>(cell + 1)];
+    for (int x = left; x < left + geometry.BorderWidth(); ++x) {
+      if (border) {
+        EXPECT_EQ(seen.pixelColor(x, y), QColor(Qt::black)) << cell;
+      } else {
+        EXPECT_NE(seen.pixelColor(x, y), QColor(Qt::black)) << cell;
+      }
+    }
+  }
+}
+
+// Sets the desktop's colours and puts the old ones back.
+struct Theme {
+  explicit Theme(const QPalette& palette) : previous(QApplication::palette()) {
+    QApplication::setPalette(palette);
+  }
+  ~Theme() { QApplication::setPalette(previous); }
+  QPalette previous;
+};
+
+TEST(Look, CaptionsKeepTheirLightGroundInADarkTheme) {
+  const Theme dark(QPalette(QColor(45, 45, 48), QColor(30, 30, 32)));
+  WindowProgram program;
+  BoardWidget& board = *program.Board();
+  const QImage seen = Seen(board);
+  const BoardGeometry geometry = board.Geometry();
+  for (int line = 0; line < kSide; ++line) {
+    for (const QRect& caption : {geometry.RowCaptionRect(line), geometry.ColumnCaptionRect(line)}) {
+      const QRect inside = caption.adjusted(1, 1, -1, -1);
+      EXPECT_GT(CountIn(seen, inside, Qt::black), 0);
+      EXPECT_GT(CountIn(seen, inside, ColourOf(kBoardColour)),
+                inside.width() * inside.height() / 3);
+    }
+  }
+  const QImage window = Seen(program.window);
+  EXPECT_LT(qGray(window.pixel(2, 2)), 80) << "the window itself is dark";
+}
+
+TEST(Look, RunningButtonCanBeReadInADarkTheme) {
+  const Theme dark(QPalette(QColor(45, 45, 48), QColor(30, 30, 32)));
+  WindowProgram program;
+  program.Click("CommandSaw");
+  program.ClickBox("CheckVisualize");
+  QTimer::singleShot(0, &program.window, [&] {
+    const QPalette colours = program.Push("CommandGo")->palette();
+    EXPECT_GT(std::abs(qGray(colours.color(QPalette::Button).rgb()) -
+                       qGray(colours.color(QPalette::ButtonText).rgb())),
+              80);
+    program.Click("CommandGo");
+  });
+  program.Click("CommandGo");
+}
+
+TEST(Look, IconHasEverySize) {
+  WindowProgram program;
+  const QIcon icon = program.window.windowIcon();
+  for (const int size : {16, 32, 48, 128}) {
+    const QImage image = icon.pixmap(QSize(size, size), 1.0).toImage();
+    ASSERT_EQ(image.size(), QSize(size, size));
+    EXPECT_GE(ColoursIn(image, image.rect()).size(), 4u) << "three cages and their borders";
+  }
+}
+
+}  // namespace
+}  // namespace tessel

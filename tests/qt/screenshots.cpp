@@ -1,0 +1,134 @@
+// Writes a picture of every stage of the program. docs/screenshots runs it for every scale.
+#include <QApplication>
+#include <QDir>
+#include <QPushButton>
+#include <QTimer>
+#include <cstdio>
+#include <cstdlib>
+
+#include "core/random_source.h"
+#include "shell/qt/tessel_window.h"
+#include "tests/fakes/fake_clock.h"
+#include "tests/fakes/fake_sound_player.h"
+#include "tests/fakes/temporary_folder.h"
+
+namespace tessel {
+namespace {
+
+class Photographer {
+ public:
+  Photographer(QDir folder, QString theme, QSize size)
+      : folder_(std::move(folder)), theme_(std::move(theme)) {
+    window_.resize(size);
+    window_.Attach(main_);
+    main_.Form_Load();
+  }
+
+  void TakeAll() {
+    Take("1-start");
+    Click(Button::CommandSaw);
+    Take("2-sawn");
+    TakeVisualisedFill();
+    Click(Button::CommandGo);
+    Take("4-filled");
+    Click(Button::CommandConceal);
+    Take("5-concealed");
+    Click(Button::CommandSolve);
+    window_.findChild<BoardWidget*>()->FocusCell(EmptyCell(30));
+    Take("6-solving");
+    Place(4, 0);
+    TakeHint();
+    Place(1, 1);
+    Click(Button::CommandHint);
+    Take("8-wrong-digit");
+    Click(Button::CommandRestart);
+    Place(kCellCount, 0);
+    Take("9-full-board");
+  }
+
+ private:
+  void Take(const QString& stage) {
+    QCoreApplication::processEvents();
+    const QString name = QString("%1-%2x%3-at-%4-%5.png")
+                             .arg(stage)
+                             .arg(window_.width())
+                             .arg(window_.height())
+                             .arg(window_.devicePixelRatioF())
+                             .arg(theme_);
+    if (!window_.grab().save(folder_.filePath(name))) {
+      std::fprintf(stderr, "cannot write %s\n", qPrintable(folder_.filePath(name)));
+      std::exit(EXIT_FAILURE);
+    }
+  }
+
+  // In the real window, so that focus and running command look as they do there.
+  void Click(Button button) { window_.findChild<ControlPanel*>()->Of(button)->click(); }
+
+  void TakeVisualisedFill() {
+    main_.Toggle(CheckBox::CheckVisualize);
+    int rounds = 0;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&] {
+      if (++rounds != 60) return;
+      Take("3-visualised-fill");
+      timer.stop();
+      Click(Button::CommandGo);
+    });
+    timer.start(0);
+    Click(Button::CommandGo);
+    main_.Toggle(CheckBox::CheckVisualize);
+  }
+
+  void TakeHint() {
+    Click(Button::CommandHint);
+    Take("7-hint");
+  }
+
+  int EmptyCell(int from) const {
+    while (main_.state().PlayBoard.Board[static_cast<std::size_t>(from)] != 0) ++from;
+    return from;
+  }
+
+  // Fills so many empty cells with their solution, turned `wrong` digits further.
+  void Place(int count, int wrong) {
+    for (int cell = 0; cell < kCellCount && count > 0; ++cell) {
+      const auto i = static_cast<std::size_t>(cell);
+      if (main_.state().PlayBoard.Board[i] != 0) continue;
+      for (int step = wrong; step < kSide; ++step) {
+        const int digit = (main_.state().PlayBoard.Solution[i] - 1 + step) % kSide + 1;
+        if (!main_.form().Mark(cell, digit).visible) continue;
+        main_.Grid_MouseUp(cell, MouseButton::kLeft, 0, kMarkUnits * ((digit - 1) % 3 + 0.5),
+                           kMarkUnits * ((digit - 1) / 3 + 0.5));
+        break;
+      }
+      --count;
+    }
+    window_.PumpEvents();
+  }
+
+  QDir folder_;
+  QString theme_;
+  TemporaryFolder records_;
+  FakeClock clock_{3};
+  FakeSoundPlayer player_;
+  SeededRandom random_;
+  TesselWindow window_;
+  Tessel_Main main_{window_, player_, clock_, random_, records_.Path().string()};
+};
+
+}  // namespace
+}  // namespace tessel
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  const QDir folder(argc > 1 ? argv[1] : "build/screenshots");
+  if (!folder.mkpath(".")) return EXIT_FAILURE;
+  const QPalette light = QApplication::palette();
+  const QPalette dark(QColor(53, 53, 56), QColor(38, 38, 41));
+  for (const QSize size : {QSize(900, 640), QSize(480, 520)}) {
+    QApplication::setPalette(light);
+    tessel::Photographer(folder, "light", size).TakeAll();
+    QApplication::setPalette(dark);
+    tessel::Photographer(folder, "dark", size).TakeAll();
+  }
+}

@@ -1,0 +1,82 @@
+// The whole program behind its real window, with fakes behind the other ports.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <QtMath>
+
+#include "core/random_source.h"
+#include "shell/qt/tessel_window.h"
+#include "tests/fakes/fake_clock.h"
+#include "tests/fakes/fake_sound_player.h"
+#include "tests/fakes/temporary_folder.h"
+
+namespace tessel {
+
+struct WindowProgram {
+  explicit WindowProgram(QSize size = {}, std::uint64_t firstSeed = 1) : clock(firstSeed) {
+    if (size.isValid()) window.resize(size);
+    window.Attach(main);
+    main.Form_Load();
+    QCoreApplication::processEvents();
+  }
+
+  const Form& form() const { return main.form(); }
+  GameState& state() { return main.state(); }
+  template <typename T>
+  T* Find(const char* name) {
+    T* const found = window.findChild<T*>(name);
+    if (found == nullptr) ADD_FAILURE() << "no control named " << name;
+    return found;
+  }
+  QPushButton* Push(const char* name) { return Find<QPushButton>(name); }
+  QCheckBox* Box(const char* name) { return Find<QCheckBox>(name); }
+  BoardWidget* Board() { return Find<BoardWidget>("Board"); }
+
+  // Real mouse clicks, in the middle of a button and on the indicator of a box.
+  void Click(const char* name) { QTest::mouseClick(Push(name), Qt::LeftButton); }
+  void ClickBox(const char* name) {
+    QTest::mouseClick(Box(name), Qt::LeftButton, {}, QPoint(8, Box(name)->height() / 2));
+  }
+  QPoint MarkPoint(int cell, int digit) {
+    const QRectF place = Board()->CellRect(cell);
+    return {qFloor(place.left() + place.width() * ((digit - 1) % 3 * 2 + 1) / 6),
+            qFloor(place.top() + place.height() * ((digit - 1) / 3 * 2 + 1) / 6)};
+  }
+  void ClickMark(int cell, int digit, Qt::MouseButton button = Qt::LeftButton) {
+    QTest::mouseClick(Board(), button, {}, MarkPoint(cell, digit));
+  }
+  // To the control of this window that has the focus, whichever window is active.
+  void Key(int key, Qt::KeyboardModifiers modifiers = {}) {
+    QWidget* const focused = window.focusWidget();
+    QTest::keyClick(focused != nullptr ? focused : Board(), static_cast<Qt::Key>(key), modifiers);
+  }
+  void MakePuzzle() {
+    Click("CommandSaw");
+    Click("CommandGo");
+    Click("CommandConceal");
+  }
+  void OpenPuzzle() {
+    MakePuzzle();
+    Click("CommandSolve");
+  }
+  int FirstEmptyCell(int from = 0) {
+    while (state().PlayBoard.Board[static_cast<std::size_t>(from)] != 0) ++from;
+    return from;
+  }
+  int SolutionAt(int cell) { return state().PlayBoard.Solution[static_cast<std::size_t>(cell)]; }
+
+  TemporaryFolder folder;
+  FakeClock clock;
+  FakeSoundPlayer player;
+  SeededRandom random;
+  TesselWindow window;
+  Tessel_Main main{window, player, clock, random, folder.Path().string()};
+};
+
+}  // namespace tessel
