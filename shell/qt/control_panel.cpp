@@ -56,6 +56,7 @@ constexpr char kLongHint[] =
     "The cells in column 8 containing candidate 8 all belong to the same cage, therefore that "
     "candidate can be removed from the other cells of that cage";
 constexpr int kHintPadding = 5;
+constexpr double kHintFontShare = 1.15;  // of the other controls' font
 // The narrowest hint box of each arrangement.
 constexpr int kHintWidthBeside = 230;
 constexpr int kHintWidthBelow = 270;
@@ -202,6 +203,9 @@ void ControlPanel::MarkRunning(Button button, bool running) {
 }
 
 void ControlPanel::Measure() {
+  QFont hintFont = font();
+  if (hintFont.pointSizeF() > 0) hintFont.setPointSizeF(kHintFontShare * hintFont.pointSizeF());
+  textHint_->setFont(hintFont);
   for (const Arrangement arrangement : {Arrangement::kBelow, Arrangement::kBeside}) {
     arrangement_ = arrangement == Arrangement::kBelow ? Arrangement::kBeside : Arrangement::kBelow;
     Arrange(arrangement);

@@ -90,7 +90,7 @@ TEST_P(BoardPainterAt, DigitsArePureBlackOnEveryCageColour) {
   for (int cell = 0; cell < kCellCount; ++cell) board.form.SetCellText(cell, cell % kSide + 1);
   const QImage image = board.Paint();
   for (int cell = 0; cell < kCellCount; ++cell) {
-    EXPECT_GT(CountIn(image, board.Interior(cell), Qt::black), board.geometry.CellSide() / 2);
+    EXPECT_GT(CountIn(image, board.Interior(cell), Qt::black), board.geometry.CellSide() / 3);
   }
 }
 

@@ -15,6 +15,22 @@
 namespace tessel {
 namespace {
 
+// Like the dark themes that desktops bring along.
+QPalette DarkPalette() {
+  const QColor ground(50, 50, 53);
+  const QColor text(235, 235, 235);
+  QPalette palette(QColor(66, 66, 70), ground);
+  palette.setColor(QPalette::Base, QColor(36, 36, 39));
+  for (const QPalette::ColorRole role :
+       {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    palette.setColor(role, text);
+    palette.setColor(QPalette::Disabled, role, QColor(130, 130, 133));
+  }
+  palette.setColor(QPalette::Highlight, QColor(53, 132, 228));
+  palette.setColor(QPalette::HighlightedText, Qt::white);
+  return palette;
+}
+
 class Photographer {
  public:
   Photographer(QDir folder, QString theme, QSize size)
@@ -124,7 +140,7 @@ int main(int argc, char** argv) {
   const QDir folder(argc > 1 ? argv[1] : "build/screenshots");
   if (!folder.mkpath(".")) return EXIT_FAILURE;
   const QPalette light = QApplication::palette();
-  const QPalette dark(QColor(53, 53, 56), QColor(38, 38, 41));
+  const QPalette dark = tessel::DarkPalette();
   for (const QSize size : {QSize(900, 640), QSize(480, 520)}) {
     QApplication::setPalette(light);
     tessel::Photographer(folder, "light", size).TakeAll();
