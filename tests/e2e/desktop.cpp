@@ -1,6 +1,8 @@
 #include "tests/e2e/desktop.h"
 
 #include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/prctl.h>
 
 #include <QScreen>
 #include <stdexcept>
@@ -30,11 +32,17 @@ void Stop(QProcess& process) {
 
 }  // namespace
 
+void EndWithThisProcess(QProcess& process) {
+  process.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
+}
+
 Desktop& TheDesktop() {
   return *desktop;
 }
 
 Desktop::Desktop() {
+  EndWithThisProcess(display_);
+  EndWithThisProcess(windowManager_);
   // Nothing of the machine's own desktop may colour, scale or translate what is compared.
   for (const char* name : {"QT_SCALE_FACTOR", "QT_STYLE_OVERRIDE", "QT_QPA_PLATFORMTHEME",
                            "XDG_CURRENT_DESKTOP", "WAYLAND_DISPLAY", "DBUS_SESSION_BUS_ADDRESS"}) {

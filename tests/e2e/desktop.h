@@ -34,6 +34,9 @@ class Desktop {
   std::unique_ptr<QApplication> application_;
 };
 
+// Lets no process outlive this one, however this one ends. To be said before its start.
+void EndWithThisProcess(QProcess& process);
+
 // The desktop of all tests of this program.
 Desktop& TheDesktop();
 

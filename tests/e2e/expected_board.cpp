@@ -17,8 +17,9 @@ ExpectedBoard::ExpectedBoard() {
 }
 
 ExpectedBoard::ExpectedBoard(const PuzzleRecord& puzzle, bool solving, const DigitOf& digitOf,
-                             const ShowsMark& showsMark)
+                             const ShowsMark& showsMark, std::optional<int> redCaptions)
     : ExpectedBoard() {
+  if (redCaptions) form_.HighlightCell(*redCaptions);
   form_.ShowSolveButtons(solving);
   state_.SavedPuzzle = puzzle;
   for (int cell = 0; cell < kCellCount; ++cell) {
@@ -51,9 +52,9 @@ ExpectedBoard ExpectedBoard::Concealed(const PuzzleRecord& puzzle) {
   return {puzzle, false, [&](int cell) { return puzzle.Board[cell]; }, NoMark};
 }
 
-ExpectedBoard ExpectedBoard::Playing(const ExpectedGame& game) {
+ExpectedBoard ExpectedBoard::Playing(const ExpectedGame& game, std::optional<int> redCaptions) {
   return {game.Puzzle(), true, [&](int cell) { return game.Digit(cell); },
-          [&](int cell, int digit) { return game.ShowsMark(cell, digit); }};
+          [&](int cell, int digit) { return game.ShowsMark(cell, digit); }, redCaptions};
 }
 
 ExpectedBoard ExpectedBoard::Solved(const PuzzleRecord& puzzle) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 #include "core/form.h"
 #include "core/game_state.h"
@@ -21,15 +22,13 @@ class ExpectedBoard {
   static ExpectedBoard Filled(const PuzzleRecord& puzzle);
   // The givens alone.
   static ExpectedBoard Concealed(const PuzzleRecord& puzzle);
-  static ExpectedBoard Playing(const ExpectedGame& game);
+  // The captions of the row and column of `redCaptions` are red.
+  static ExpectedBoard Playing(const ExpectedGame& game, std::optional<int> redCaptions);
   // After the button "Solution".
   static ExpectedBoard Solved(const PuzzleRecord& puzzle);
 
   ExpectedBoard(const ExpectedBoard&) = delete;
   ExpectedBoard& operator=(const ExpectedBoard&) = delete;
-
-  // Makes the captions of the cell's row and column red.
-  void Highlight(int cell) { form_.HighlightCell(cell); }
 
   const Form& form() const { return form_; }
   const GameState& state() const { return state_; }
@@ -41,7 +40,7 @@ class ExpectedBoard {
 
   ExpectedBoard();
   ExpectedBoard(const PuzzleRecord& puzzle, bool solving, const DigitOf& digitOf,
-                const ShowsMark& showsMark);
+                const ShowsMark& showsMark, std::optional<int> redCaptions = std::nullopt);
 
   RecordingView view_;
   Form form_{view_};

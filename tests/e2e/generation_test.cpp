@@ -24,13 +24,13 @@ TEST_P(PuzzleOfEveryKind, IsMadeSeenAndSaved) {
   EXPECT_TRUE(user.SeesStage(Stage::kLayoutNeeded));
   if (GetParam().box != nullptr) user.Press(GetParam().box);
 
-  EXPECT_TRUE(user.RunsCommand("CommandSaw", "Sawed"));
+  EXPECT_TRUE(user.RunsCommand(kSaw));
   EXPECT_TRUE(user.SeesStage(Stage::kLayoutMade));
   const QImage sawn = user.LooksAtBoard();
-  EXPECT_TRUE(user.RunsCommand("CommandGo", "Filled"));
+  EXPECT_TRUE(user.RunsCommand(kFill));
   EXPECT_TRUE(user.SeesStage(Stage::kGridFilled));
   const QImage filled = user.LooksAtBoard();
-  EXPECT_TRUE(user.RunsCommand("CommandConceal", "Concealed"));
+  EXPECT_TRUE(user.RunsCommand(kConceal));
   EXPECT_TRUE(user.SeesStage(Stage::kPuzzleConcealed));
 
   // The record tells what the board must have shown on the way.
@@ -56,7 +56,7 @@ TEST(Generation, EveryConcealAppendsARecord) {
   User user(folder.Path());
   ASSERT_TRUE(user.MakesPuzzle());
   const std::string first = BytesOf(folder.PuzzleFile());
-  ASSERT_TRUE(user.RunsCommand("CommandConceal", "Concealed"));
+  ASSERT_TRUE(user.RunsCommand(kConceal));
   const std::string both = BytesOf(folder.PuzzleFile());
   ASSERT_EQ(both.size(), 2 * sizeof(PuzzleRecord));
   EXPECT_EQ(both.substr(0, sizeof(PuzzleRecord)), first);

@@ -12,10 +12,6 @@ namespace {
 
 constexpr int kPatienceMs = static_cast<int>(std::chrono::milliseconds(kPatience).count());
 
-QStringList MoveTo(QPoint onDisplay) {
-  return {"mousemove", QString::number(onDisplay.x()), QString::number(onDisplay.y())};
-}
-
 }  // namespace
 
 void InstallProgram(const std::filesystem::path& folder) {
@@ -44,19 +40,26 @@ QImage DesktopWindow::Screenshot() const {
   return TheDesktop().Screenshot(Area());
 }
 
-void DesktopWindow::Resize(QSize size) const {
+QSize DesktopWindow::Resize(QSize size) const {
   TheDesktop().Xdo(
       {"windowsize", id_, QString::number(size.width()), QString::number(size.height())});
-  Eventually([&] { return Area().size() == size; }, std::chrono::seconds(10));
+  Eventually([&] { return Area().size() == size; });
+  return Area().size();
 }
 
-void DesktopWindow::Click(QPoint place, Hand button) const {
-  TheDesktop().Xdo(MoveTo(Area().topLeft() + place) +
-                   QStringList{"click", QString::number(static_cast<int>(button))});
+void DesktopWindow::Click(QPoint place, MouseKey button) const {
+  TheDesktop().Xdo({"mousemove", "--window", id_, QString::number(place.x()),
+                    QString::number(place.y()), "click",
+                    QString::number(static_cast<int>(button))});
 }
 
-void DesktopWindow::PointAt(QPoint place) const {
-  TheDesktop().Xdo(MoveTo(Area().topLeft() + place));
+bool DesktopWindow::IsActive() const {
+  return TheDesktop().Xdo({"getactivewindow"}) == id_;
+}
+
+void DesktopWindow::PressKeys(const QStringList& keys) const {
+  if (!Eventually([this] { return IsActive(); })) throw std::runtime_error("window not active");
+  TheDesktop().Xdo(QStringList{"key"} + keys);
 }
 
 RunningProgram::RunningProgram(const std::filesystem::path& folder)
@@ -64,6 +67,7 @@ RunningProgram::RunningProgram(const std::filesystem::path& folder)
 
 RunningProgram::RunningProgram(const std::filesystem::path& folder,
                                const QProcessEnvironment& environment) {
+  EndWithThisProcess(process_);
   process_.setProcessEnvironment(environment);
   process_.setProcessChannelMode(QProcess::ForwardedChannels);
   process_.start(QString::fromStdString((folder / "tessel-sudoku").string()), QStringList());
@@ -107,10 +111,6 @@ bool RunningProgram::Running() {
 
 bool RunningProgram::Ended() {
   return !Running() || process_.waitForFinished(kPatienceMs);
-}
-
-void Press(const QStringList& keys) {
-  TheDesktop().Xdo(QStringList{"key", "--clearmodifiers"} + keys);
 }
 
 }  // namespace tessel

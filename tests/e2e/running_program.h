@@ -13,7 +13,7 @@ namespace tessel {
 // Installs the program with its sounds into `folder`, as a user gets it.
 void InstallProgram(const std::filesystem::path& folder);
 
-enum class Hand { kLeft = 1, kMiddle = 2, kRight = 3 };
+enum class MouseKey { kLeft = 1, kMiddle = 2, kRight = 3 };
 
 // A window as the display shows it. Places are relative to its contents.
 class DesktopWindow {
@@ -26,11 +26,14 @@ class DesktopWindow {
   // Where the contents lie on the display.
   QRect Area() const;
   QImage Screenshot() const;
-  // Makes the contents as large as this, or as the window allows.
-  void Resize(QSize size) const;
+  // Makes the contents as large as this; tells how large they got.
+  QSize Resize(QSize size) const;
   // A mouse button pressed and released.
-  void Click(QPoint place, Hand button = Hand::kLeft) const;
-  void PointAt(QPoint place) const;
+  void Click(QPoint place, MouseKey button = MouseKey::kLeft) const;
+  // Whether the keyboard's input goes to this window.
+  bool IsActive() const;
+  // Presses the keys, as xdotool names them, one after another; waits until the window is active.
+  void PressKeys(const QStringList& keys) const;
 
  private:
   QString id_;
@@ -63,8 +66,5 @@ class RunningProgram {
   QProcess process_;
   DesktopWindow window_{QString()};
 };
-
-// Keys pressed one after another, as xdotool names them, by whoever has the keyboard.
-void Press(const QStringList& keys);
 
 }  // namespace tessel

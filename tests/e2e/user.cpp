@@ -47,27 +47,45 @@ testing::AssertionResult Differs(const QImage& expected, const QImage& seen) {
 User::User(const std::filesystem::path& folder, const QProcessEnvironment& environment)
     : program_(folder, environment), twin_(program_.Window().Area().size()) {}
 
-void User::ResizeWindow(QSize size) {
-  program_.Window().Resize(size);
-  twin_.Resize(program_.Window().Area().size());
+testing::AssertionResult User::ResizesWindow(QSize size) {
+  const QSize reached = program_.Window().Resize(size);
+  twin_.Resize(reached);
+  if (reached == size) return testing::AssertionSuccess();
+  return testing::AssertionFailure() << reached.width() << " x " << reached.height();
 }
 
 void User::Press(const char* control) const {
   program_.Window().Click(twin_.AreaOf(control).center());
 }
 
-void User::ClickMark(int cell, int digit, Hand button) {
+void User::ClickMark(int cell, int digit, MouseKey button) {
   program_.Window().Click(twin_.MarkPlace(cell, digit), button);
   focusedCell_ = cell;
 }
 
-testing::AssertionResult User::Answers(const char* title, const char* question, bool yes) const {
+void User::PressShortcut(const char* control) const {
+  program_.Window().PressKeys({twin_.ShortcutOf(control).toLower()});
+}
+
+void User::PressOnCell(int cell, const QString& key) {
+  QStringList keys;
+  const auto move = [&keys](int distance, const char* back, const char* forth) {
+    for (int i = 0; i < std::abs(distance); ++i) keys << (distance < 0 ? back : forth);
+  };
+  move(RowOf(cell) - RowOf(focusedCell_), "Up", "Down");
+  move(ColumnOf(cell) - ColumnOf(focusedCell_), "Left", "Right");
+  program_.Window().PressKeys(keys << key);
+  focusedCell_ = cell;
+}
+
+testing::AssertionResult User::Answers(const char* title, const char* question, bool yes,
+                                       By by) const {
   QMessageBox twin(QMessageBox::Question, title, question, QMessageBox::Yes | QMessageBox::No);
   twin.setAttribute(Qt::WA_DontShowOnScreen);
   twin.show();
   QCoreApplication::processEvents();
-  const auto& label = *twin.findChild<QLabel*>("qt_msgbox_label");
-  const QImage expected = Plain(const_cast<QLabel&>(label).grab());
+  auto& label = *twin.findChild<QLabel*>("qt_msgbox_label");
+  const QImage expected = Plain(label.grab());
 
   const DesktopWindow asked = program_.Question();
   if (asked.Caption() != title) return testing::AssertionFailure() << asked.Caption();
@@ -77,22 +95,30 @@ testing::AssertionResult User::Answers(const char* title, const char* question, 
     return seen == expected;
   };
   if (!Eventually(readsSo)) return Differs(expected, seen);
-  asked.Click(twin.button(yes ? QMessageBox::Yes : QMessageBox::No)->geometry().center());
-  return testing::AssertionSuccess();
+  if (by == By::kKeyboard) {
+    asked.PressKeys({yes ? "alt+y" : "alt+n"});
+  } else {
+    const auto& button = *twin.button(yes ? QMessageBox::Yes : QMessageBox::No);
+    asked.Click(button.mapTo(&twin, button.rect().center()));
+  }
+  const bool closes = Eventually([&] { return !program_.Asks(); });
+  return closes ? testing::AssertionSuccess() : testing::AssertionFailure() << "still asks";
 }
 
-testing::AssertionResult User::RunsCommand(const char* button, const char* told) {
-  Press(button);
-  return SeesCaption(std::string("Tessel Sudoku - ") + told + R"( in [0-9]+\.[0-9]{2} ms)");
+testing::AssertionResult User::RunsCommand(const Generation& command) {
+  Press(command.button);
+  return SeesTime(command.done);
 }
 
 testing::AssertionResult User::MakesPuzzle() {
-  for (const auto& [button, told] : {std::pair{"CommandSaw", "Sawed"},
-                                     {"CommandGo", "Filled"},
-                                     {"CommandConceal", "Concealed"}}) {
-    if (const auto result = RunsCommand(button, told); !result) return result;
+  for (const Generation& command : {kSaw, kFill, kConceal}) {
+    if (const auto result = RunsCommand(command); !result) return result;
   }
   return testing::AssertionSuccess();
+}
+
+testing::AssertionResult User::SeesTime(const std::string& done) const {
+  return SeesCaption("Tessel Sudoku - " + done + R"( in [0-9]+\.[0-9]{2} ms)");
 }
 
 testing::AssertionResult User::SeesCaption(const std::string& pattern) const {
@@ -140,6 +166,18 @@ testing::AssertionResult User::SeesText(const char* label, const std::string& te
     return seen == expected;
   };
   return Eventually(readsSo) ? testing::AssertionSuccess() : Differs(expected, seen);
+}
+
+// Hidden, the frame leaves its place empty.
+testing::AssertionResult User::SeesSolveButtons(bool visible) const {
+  const auto looksSo = [&] {
+    const QImage seen = LooksAt(twin_.AreaOf("SolveButtons"));
+    QImage blank(seen.size(), seen.format());
+    blank.fill(seen.pixel(0, 0));
+    return (seen != blank) == visible;
+  };
+  return Eventually(looksSo) ? testing::AssertionSuccess()
+                             : testing::AssertionFailure() << "the frame is not so";
 }
 
 testing::AssertionResult User::SeesBoard(const ExpectedBoard& board) const {

@@ -13,6 +13,15 @@
 
 namespace tessel {
 
+// A generation command's button and what the caption says at its end.
+struct Generation {
+  const char* button;
+  const char* done;
+};
+inline constexpr Generation kSaw{"CommandSaw", "Sawed"};
+inline constexpr Generation kFill{"CommandGo", "Filled"};
+inline constexpr Generation kConceal{"CommandConceal", "Concealed"};
+
 enum class Stage { kLayoutNeeded, kLayoutMade, kGridFilled, kPuzzleConcealed };
 
 class User {
@@ -22,23 +31,34 @@ class User {
                 const QProcessEnvironment& environment = QProcessEnvironment::systemEnvironment());
 
   RunningProgram& Program() { return program_; }
-  void ResizeWindow(QSize size);
+  testing::AssertionResult ResizesWindow(QSize size);
 
-  // A left click on the control of this name.
+  // By mouse: a left click on the control of this name; a click on a digit's mark.
   void Press(const char* control) const;
-  void ClickMark(int cell, int digit, Hand button);
-  // The question is open and reads like this; answers it by mouse.
-  testing::AssertionResult Answers(const char* title, const char* question, bool yes) const;
+  void ClickMark(int cell, int digit, MouseKey button);
 
-  // Saw, Fill and Conceal, each to its end.
+  // By keyboard: the shortcut that the control's tooltip tells; a key on a cell, to which the arrow
+  // keys lead from the one that has the focus.
+  void PressShortcut(const char* control) const;
+  void PressOnCell(int cell, const QString& key);
+
+  // The question is open and reads like this. Answers it.
+  enum class By { kMouse, kKeyboard };
+  testing::AssertionResult Answers(const char* title, const char* question, bool yes,
+                                   By by = By::kMouse) const;
+
+  // By mouse: Saw, Fill and Conceal, each to its end; one of them.
   testing::AssertionResult MakesPuzzle();
-  testing::AssertionResult RunsCommand(const char* button, const char* told);
+  testing::AssertionResult RunsCommand(const Generation& command);
 
   // Whether the window comes to look so.
   testing::AssertionResult SeesCaption(const std::string& pattern) const;
+  // The caption that tells how long a command took: "Sawed", "Filled" or "Concealed".
+  testing::AssertionResult SeesTime(const std::string& done) const;
   testing::AssertionResult SeesStage(Stage stage);
   testing::AssertionResult SeesButton(const char* button, const char* caption, bool enabled);
   testing::AssertionResult SeesText(const char* label, const std::string& text);
+  testing::AssertionResult SeesSolveButtons(bool visible) const;
   testing::AssertionResult SeesBoard(const ExpectedBoard& board) const;
 
   // What the board shows now, and whether it is that.
@@ -47,15 +67,12 @@ class User {
   // Whether the button looks more like this than like its opposite.
   bool LooksEnabled(const char* button, const char* caption);
 
-  // The cell that has the keyboard's focus when the board has it.
-  void FocusIsAt(int cell) { focusedCell_ = cell; }
-
  private:
   QImage LooksAt(const QRect& area) const;
 
   RunningProgram program_;
   WindowTwin twin_;
-  int focusedCell_ = kCentreCell;
+  int focusedCell_ = kCentreCell;  // by the keyboard, whenever the board has it
 };
 
 }  // namespace tessel

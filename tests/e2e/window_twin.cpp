@@ -45,6 +45,10 @@ QPoint WindowTwin::MarkPlace(int cell, int digit) const {
   return AreaOfBoard().topLeft() + mark.center();
 }
 
+QString WindowTwin::ShortcutOf(const char* control) const {
+  return Find<QWidget>(control).toolTip().section('\n', -1);
+}
+
 QImage WindowTwin::Board(const ExpectedBoard& board, std::optional<int> focusedCell) const {
   QImage image(BoardOf().size(), QImage::Format_RGB32);
   image.fill(window_.palette().color(QPalette::Window));

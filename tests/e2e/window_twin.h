@@ -27,6 +27,8 @@ class WindowTwin {
   QRect AreaOf(const char* control) const;
   QRect AreaOfBoard() const { return AreaOf("Board"); }
   QPoint MarkPlace(int cell, int digit) const;
+  // The control's shortcut as its tooltip tells it, "Alt+S".
+  QString ShortcutOf(const char* control) const;
 
   // The board as it must look, with the keyboard's focus in a cell if it has it.
   QImage Board(const ExpectedBoard& board, std::optional<int> focusedCell) const;
