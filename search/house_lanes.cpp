@@ -25,17 +25,25 @@ HouseLanes::HouseLanes() {
 }
 
 void HouseLanes::Follow(const GameState& state) {
-  if (layout_ == state.CageOfCell) return;
+  if (followed_ && layout_ == state.CageOfCell) return;
+  followed_ = true;
   layout_ = state.CageOfCell;
-  for (int cell = 0; cell < kCellCount; ++cell) {
-    cages_[cell].fill(0);
-    int k = 0;
-    for (const int peer : CageAround(state, cell)) {
-      const bool logged = RowOf(peer) == RowOf(cell) || ColumnOf(peer) == ColumnOf(cell);
-      if (!logged) cages_[cell][peer] = static_cast<std::int16_t>(1 << k);
-      ++k;
+  cages_ = {};
+  for (int cage = 1; cage <= kSide; ++cage) {
+    for (int k = 0; k < kSide; ++k) {
+      const int cell = state.CageCells[cage - 1][k];
+      if (layout_[cell] == cage) cages_[cage][cell] = static_cast<std::int16_t>(1 << k);
     }
   }
+  for (int cell = 0; cell < kCellCount; ++cell) FindPeers(cell);
+}
+
+void HouseLanes::FindPeers(int cell) {
+  for (int other = 0; other < kLaneCount; ++other) {
+    const int shared = Row(cell)[other] | Column(cell)[other] | Cage(cell)[other];
+    peers_[cell][other] = shared != 0 ? kAllCandidates : Mask{0};
+  }
+  peers_[cell][cell] = 0;
 }
 
 }  // namespace tessel

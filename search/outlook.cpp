@@ -23,82 +23,73 @@ constexpr Mask WithoutLowest(Mask mask) {
   return static_cast<Mask>(mask & static_cast<Mask>(mask - 1));
 }
 
-// The lanes in which some cell has no candidate, and at most one.
-struct Findings {
-  Mask none = 0;
-  Mask atMostOne = 0;
-
-  void Add(Mask unfilled, Mask mask) {
-    none = static_cast<Mask>(none | (unfilled & LaneOfEmpty(mask)));
-    atMostOne = static_cast<Mask>(atMostOne | (unfilled & LaneOfEmpty(WithoutLowest(mask))));
-  }
-  Outlook Result() const { return {none != 0, atMostOne != 0}; }
-};
-
 }  // namespace
 
 TESSEL_WIDE_VECTORS Outlook OutlookOf(const SearchLevel& level) {
-  Findings findings;
+  Mask none = 0;
+  Mask atMostOne = 0;
   for (int cell = 0; cell < kLaneCount; ++cell) {
-    findings.Add(LaneOfEmpty(level.Digit[cell]), level.Candidates[cell]);
+    const Mask unfilled = LaneOfEmpty(level.Digit[cell]);
+    const Mask mask = level.Candidates[cell];
+    none = static_cast<Mask>(none | (unfilled & LaneOfEmpty(mask)));
+    atMostOne = static_cast<Mask>(atMostOne | (unfilled & LaneOfEmpty(WithoutLowest(mask))));
   }
-  return findings.Result();
+  return {none != 0, atMostOne != 0};
 }
 
 TESSEL_WIDE_VECTORS Outlook TakeFromPeers(SearchLevel& level, const HouseLanes& lanes, int placed,
                                           Mask bit) {
-  const LogBits& row = lanes.Row(placed);
-  const LogBits& column = lanes.Column(placed);
-  const LogBits& cage = lanes.Cage(placed);
-  const std::int16_t* own = OwnLane(placed);
-  Findings findings;
+  const Lanes& peers = lanes.Peers(placed);
+  Mask none = 0;
+  Mask atMostOneCount = 0;
   for (int cell = 0; cell < kLaneCount; ++cell) {
-    const auto unfilled = static_cast<Mask>(LaneOfEmpty(level.Digit[cell]) & ~own[cell]);
-    const auto logBits = static_cast<Mask>(row[cell] | column[cell] | cage[cell]);
-    const auto taken = static_cast<Mask>(~LaneOfEmpty(logBits) & bit & unfilled);
+    const Mask unfilled = LaneOfEmpty(level.Digit[cell]);
+    const auto taken = static_cast<Mask>(peers[cell] & bit & unfilled);
     const Mask mask = Without(level.Candidates[cell], taken);
     level.Candidates[cell] = mask;
-    findings.Add(unfilled, mask);
+    none = static_cast<Mask>(none | (unfilled & LaneOfEmpty(mask)));
+    const auto atMostOne = static_cast<Mask>(unfilled & LaneOfEmpty(WithoutLowest(mask)));
+    atMostOneCount = static_cast<Mask>(atMostOneCount - atMostOne);
   }
-  return findings.Result();
+  return {none != 0, atMostOneCount > 1};  // the placed cell is one itself
 }
 
 TESSEL_WIDE_VECTORS Outlook TakeFromPeersLogged(SearchLevel& level, const HouseLanes& lanes,
                                                 int placed, Mask bit, int u) {
-  const LogBits& row = lanes.Row(placed);
-  const LogBits& column = lanes.Column(placed);
-  const LogBits& cage = lanes.Cage(placed);
+  const Lanes& row = lanes.Row(placed);
+  const Lanes& column = lanes.Column(placed);
+  const Lanes& cage = lanes.Cage(placed);
+  const Lanes& peers = lanes.Peers(placed);
   const std::int16_t* own = OwnLane(placed);
   Mask rowMask = 0;
   Mask columnMask = 0;
   Mask cageMask = 0;
-  Findings findings;
+  Mask none = 0;
+  Mask atMostOne = 0;
   for (int cell = 0; cell < kLaneCount; ++cell) {
     const auto unfilled = static_cast<Mask>(LaneOfEmpty(level.Digit[cell]) & ~own[cell]);
-    const auto has =
-        static_cast<Mask>(~LaneOfEmpty(static_cast<Mask>(level.Candidates[cell] & bit)) & unfilled);
-    const auto inRow = static_cast<Mask>(row[cell] & has);
-    const auto inColumn = static_cast<Mask>(column[cell] & has);
-    const auto inCage = static_cast<Mask>(cage[cell] & has);
-    rowMask = static_cast<Mask>(rowMask | inRow);
-    columnMask = static_cast<Mask>(columnMask | inColumn);
-    cageMask = static_cast<Mask>(cageMask | inCage);
-    const Mask kept = LaneOfEmpty(static_cast<Mask>(inRow | inColumn | inCage));
-    const Mask mask = Without(level.Candidates[cell], static_cast<Mask>(bit & ~kept));
+    const auto taken = static_cast<Mask>(level.Candidates[cell] & peers[cell] & bit & unfilled);
+    const auto lost = static_cast<Mask>(~LaneOfEmpty(taken));
+    const Mask outsideLines = LaneOfEmpty(static_cast<Mask>(row[cell] | column[cell]));
+    rowMask = static_cast<Mask>(rowMask | (row[cell] & lost));
+    columnMask = static_cast<Mask>(columnMask | (column[cell] & lost));
+    cageMask = static_cast<Mask>(cageMask | (cage[cell] & lost & outsideLines));
+    const Mask mask = Without(level.Candidates[cell], taken);
     level.Candidates[cell] = mask;
-    findings.Add(unfilled, mask);
+    none = static_cast<Mask>(none | (unfilled & LaneOfEmpty(mask)));
+    atMostOne = static_cast<Mask>(atMostOne | (unfilled & LaneOfEmpty(WithoutLowest(mask))));
   }
   level.UndoRowMask[u] = rowMask;
   level.UndoColumnMask[u] = columnMask;
   level.UndoCageMask[u] = cageMask;
-  return findings.Result();
+  return {none != 0, atMostOne != 0};
 }
 
 TESSEL_WIDE_VECTORS void GiveBack(SearchLevel& level, const HouseLanes& lanes, int placed, Mask bit,
                                   int u) {
-  const LogBits& row = lanes.Row(placed);
-  const LogBits& column = lanes.Column(placed);
-  const LogBits& cage = lanes.Cage(placed);
+  const Lanes& row = lanes.Row(placed);
+  const Lanes& column = lanes.Column(placed);
+  const Lanes& cage = lanes.Cage(placed);
   const Mask rowMask = level.UndoRowMask[u];
   const Mask columnMask = level.UndoColumnMask[u];
   const Mask cageMask = level.UndoCageMask[u];

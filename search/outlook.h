@@ -15,10 +15,12 @@ struct Outlook {
 
 Outlook OutlookOf(const SearchLevel& level);
 
-// Takes the digit of `bit` from the unfilled cells that share a house with `cell`.
+// Takes the digit of `bit` from the unfilled cells that share a house with `cell`, which has no
+// other candidate and counts as filled.
 Outlook TakeFromPeers(SearchLevel& level, const HouseLanes& lanes, int cell, Mask bit);
 
-// The same, and writes down in the three masks of log entry `u` which cells have lost the digit.
+// The same for a cell with any candidates; writes down in the three masks of log entry `u` which
+// cells have lost the digit.
 Outlook TakeFromPeersLogged(SearchLevel& level, const HouseLanes& lanes, int cell, Mask bit, int u);
 
 // Gives the digit of `bit` back to the cells that log entry `u` names.
