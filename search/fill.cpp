@@ -1,6 +1,5 @@
 #include "search/fill.h"
 
-#include <algorithm>
 #include <limits>
 
 #include "core/stage_time.h"
@@ -49,7 +48,7 @@ bool FillGenerator::GenerateTessel() {
   const SearchLevel& solution = search_.Top();
   ProgressDrawing(state_, form_, search_)
       .DLXUpdateGrid(-1, solution.Order.front(), UpdateMode::kFinished);
-  std::copy_n(solution.Digit.begin(), kCellCount, state_.WorkGrid.begin());
+  state_.WorkGrid = solution.Digit.Board();
   return true;
 }
 

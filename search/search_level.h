@@ -1,6 +1,7 @@
 // One complete state of the search, copied as a whole when a level is opened.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <type_traits>
@@ -12,7 +13,13 @@ namespace tessel {
 // One 16-bit lane for each cell 0..80 and some more, so that passes over the board take whole
 // vectors.
 inline constexpr int kLaneCount = 96;
-struct alignas(32) Lanes : std::array<std::int16_t, kLaneCount> {};
+struct alignas(32) Lanes : std::array<std::int16_t, kLaneCount> {
+  PerCell<std::int16_t> Board() const {
+    PerCell<std::int16_t> board;
+    std::copy_n(begin(), kCellCount, board.begin());
+    return board;
+  }
+};
 // What stands in Digit's lanes beyond the board: they count as filled.
 inline constexpr std::int16_t kBeyondTheBoard = -1;
 
