@@ -109,13 +109,13 @@ void BoardPainter::PaintCaptions(QPainter& painter) const {
 // A red caption also gets an arrow towards its line, for readers who cannot tell red from black.
 void BoardPainter::PaintCaption(QPainter& painter, const QRect& place, QChar text, Rgb colour,
                                 QPoint towardsLine) const {
-  const int arrow = geometry_.CaptionPixels() / 4;
+  const int arrow = geometry_.CaptionPixels() / 3;
   const QPoint room = arrow * towardsLine;
   const QRect textPlace = place.adjusted(0, 0, -room.x(), -room.y());
   painter.setPen(ToColour(colour));
   DrawCentred(painter, textPlace, text);
   if (colour != kHighlightRed) return;
-  const QPoint across = arrow * towardsLine.transposed();
+  const QPoint across = arrow * 3 / 4 * towardsLine.transposed();
   const QPoint half(textPlace.width() / 2 * towardsLine.x(),
                     textPlace.height() / 2 * towardsLine.y());
   const QPoint base = textPlace.center() + half;

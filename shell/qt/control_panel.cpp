@@ -56,7 +56,7 @@ constexpr char kLongHint[] =
     "The cells in column 8 containing candidate 8 all belong to the same cage, therefore that "
     "candidate can be removed from the other cells of that cage";
 constexpr int kHintPadding = 5;
-constexpr double kHintFontShare = 1.15;  // of the other controls' font
+constexpr double kHintFontShare = 1.15;  // of the other controls' font, where there is room
 // The narrowest hint box of each arrangement.
 constexpr int kHintWidthBeside = 230;
 constexpr int kHintWidthBelow = 270;
@@ -94,10 +94,17 @@ QGridLayout* LayOut(QWidget* parent, int margin, int spacing, const std::vector<
   return grid;
 }
 
-int HintHeight(const QLabel& label, int width) {
+// Gives the hint that font, and the height that a long hint takes in it.
+void FitHint(QLabel& label, const QFont& font, int width) {
+  label.setFont(font);
   const QRect room(0, 0, width - 2 * kHintPadding, QWIDGETSIZE_MAX);
-  return label.fontMetrics().boundingRect(room, Qt::TextWordWrap, kLongHint).height() +
-         3 * kHintPadding;
+  const QRect text = QFontMetrics(font).boundingRect(room, Qt::TextWordWrap, kLongHint);
+  label.setFixedHeight(text.height() + 3 * kHintPadding);
+}
+
+QFont Enlarged(QFont font) {
+  if (font.pointSizeF() > 0) font.setPointSizeF(kHintFontShare * font.pointSizeF());
+  return font;
 }
 
 }  // namespace
@@ -203,9 +210,6 @@ void ControlPanel::MarkRunning(Button button, bool running) {
 }
 
 void ControlPanel::Measure() {
-  QFont hintFont = font();
-  if (hintFont.pointSizeF() > 0) hintFont.setPointSizeF(kHintFontShare * hintFont.pointSizeF());
-  textHint_->setFont(hintFont);
   for (const Arrangement arrangement : {Arrangement::kBelow, Arrangement::kBeside}) {
     arrangement_ = arrangement == Arrangement::kBelow ? Arrangement::kBeside : Arrangement::kBelow;
     Arrange(arrangement);
@@ -248,7 +252,7 @@ void ControlPanel::ArrangeBeside() {
           {help_, 3, 0},
           {Of(Button::CommandExit), 3, 1}})
       ->setRowStretch(2, 1);
-  textHint_->setFixedHeight(HintHeight(*textHint_, kHintWidthBeside));
+  FitHint(*textHint_, Enlarged(font()), kHintWidthBeside);
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
 }
 
@@ -274,7 +278,7 @@ void ControlPanel::ArrangeBelow() {
           {textHint_, 0, 2, 1, 3}})
       ->setColumnStretch(2, 1);
   LayOut(this, 0, kTightSpacing, {{generation_, 0, 0}, {solveButtons_, 1, 0}});
-  textHint_->setFixedHeight(HintHeight(*textHint_, kHintWidthBelow));
+  FitHint(*textHint_, font(), kHintWidthBelow);
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
 

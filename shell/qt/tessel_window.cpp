@@ -15,7 +15,8 @@ namespace {
 
 constexpr QSize kLeastWindow(480, 520);
 constexpr QSize kUsualWindow(900, 640);
-constexpr int kMargin = 8;
+constexpr int kWideMargin = 8;
+constexpr int kTightMargin = 4;  // where the panel takes height from the board
 
 // The least time that a step of visualised work stays on the screen; 250 steps a second are fast
 // and can still be followed.
@@ -50,10 +51,7 @@ TesselWindow::TesselWindow()
 
 void TesselWindow::BuildLayout() {
   auto* column = new QVBoxLayout(this);
-  column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-  column->setSpacing(kMargin);
   boardAndPanel_ = new QBoxLayout(QBoxLayout::LeftToRight);
-  boardAndPanel_->setSpacing(kMargin);
   boardAndPanel_->addWidget(board_, 1);
   boardAndPanel_->addWidget(panel_);
   column->addLayout(boardAndPanel_, 1);
@@ -189,6 +187,10 @@ void TesselWindow::ArrangePanel() {
       std::min(beside.width(), beside.height()) >= std::min(below.width(), below.height());
   panel_->Arrange(isBeside ? Arrangement::kBeside : Arrangement::kBelow);
   boardAndPanel_->setDirection(isBeside ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+  const int margin = isBeside ? kWideMargin : kTightMargin;
+  layout()->setContentsMargins(margin, margin, margin, margin);
+  layout()->setSpacing(margin);
+  boardAndPanel_->setSpacing(margin);
   notice_->setFixedHeight((isBeside ? 1 : 2) * notice_->fontMetrics().lineSpacing());
 }
 

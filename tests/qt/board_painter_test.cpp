@@ -173,7 +173,7 @@ TEST_P(BoardPainterAt, RedCaptionGetsAnArrow) {
     EXPECT_EQ(CountIn(image, column, Qt::red) > 0, line == 7);
   }
   // The arrow lies between caption and board, where a black caption leaves everything light.
-  const int arrow = board.geometry.CaptionPixels() / 4;
+  const int arrow = board.geometry.CaptionPixels() / 4;  // and a little less
   const QRect row = board.geometry.RowCaptionRect(3);
   const QRect strip(row.right() - arrow + 1, row.top(), arrow, row.height());
   EXPECT_GT(CountIn(image, strip, Qt::red), 0);

@@ -160,6 +160,13 @@ TEST(ControlPanel, BoardGrowsWithTheWindow) {
   EXPECT_GT(last, 110.0);
 }
 
+TEST(ControlPanel, MarksCanBeReadInTheSmallestWindow) {
+  WindowProgram program(QSize(480, 520));
+  EXPECT_GE(program.Board()->CellRect(0).width(), 27);
+  program.window.resize(100, 100);
+  EXPECT_EQ(program.window.size(), QSize(480, 520));
+}
+
 TEST(ControlPanel, LongHintIsShownWhole) {
   for (const QSize size : {QSize(480, 520), QSize(900, 640), QSize(640, 1000)}) {
     WindowProgram program(size);
