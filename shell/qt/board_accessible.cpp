@@ -87,8 +87,9 @@ void BoardAccessible::Install() {
 
 void BoardAccessible::NotifyCell(BoardWidget& board, int cell) {
   if (!QAccessible::isActive()) return;
-  QAccessibleInterface* place = QAccessible::queryAccessibleInterface(&board)->child(cell);
-  QAccessibleValueChangeEvent event(place, place->text(QAccessible::Value));
+  // The description and not the value: bridges take a changed value only from sliders and the like.
+  QAccessibleEvent event(QAccessible::queryAccessibleInterface(&board)->child(cell),
+                         QAccessible::DescriptionChanged);
   QAccessible::updateAccessibility(&event);
 }
 

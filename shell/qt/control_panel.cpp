@@ -111,6 +111,7 @@ QFont Enlarged(QFont font) {
 
 ControlPanel::ControlPanel(QWidget* parent) : QWidget(parent) {
   generation_ = new QFrame(this);
+  generation_->setAccessibleName("Generation");
   solveButtons_ = new QFrame(this);
   solveButtons_->setObjectName("SolveButtons");
   solveButtons_->setAccessibleName("Solving");

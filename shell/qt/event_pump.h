@@ -29,7 +29,7 @@ class EventPump {
   }
 
  private:
-  static constexpr int kPumpsPerLook = 16;  // at the clock, which is not free either
+  static constexpr int kPumpsPerLook = 32;  // at the clock, which is not free either
   static constexpr std::chrono::milliseconds kQuietTime{10};
 
   int skipped_ = 0;

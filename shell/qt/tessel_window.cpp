@@ -18,9 +18,9 @@ constexpr QSize kUsualWindow(900, 640);
 constexpr int kWideMargin = 8;
 constexpr int kTightMargin = 4;  // where the panel takes height from the board
 
-// The least time that a step of visualised work stays on the screen; 250 steps a second are fast
+// The least time that a step of visualised work stays on the screen; 300 steps a second are fast
 // and can still be followed.
-constexpr std::chrono::milliseconds kFrameTime{4};
+constexpr std::chrono::milliseconds kFrameTime{3};
 
 }  // namespace
 
