@@ -50,16 +50,17 @@ class Photographer {
     Click(Button::CommandConceal);
     Take("5-concealed");
     Click(Button::CommandSolve);
-    window_.findChild<BoardWidget*>()->FocusCell(EmptyCell(30));
+    Board().FocusCell(EmptyCell(30));
     Take("6-solving");
+    Place(kCellCount, 0);
+    Take("7-full-board");
+    Click(Button::CommandRestart);
     Place(4, 0);
-    TakeHint();
+    Click(Button::CommandHint);
+    Take("8-hint");
     Place(1, 1);
     Click(Button::CommandHint);
-    Take("8-wrong-digit");
-    Click(Button::CommandRestart);
-    Place(kCellCount, 0);
-    Take("9-full-board");
+    Take("9-wrong-digit");
   }
 
  private:
@@ -76,6 +77,8 @@ class Photographer {
       std::exit(EXIT_FAILURE);
     }
   }
+
+  BoardWidget& Board() { return *window_.findChild<BoardWidget*>(); }
 
   // In the real window, so that focus and running command look as they do there.
   void Click(Button button) { window_.findChild<ControlPanel*>()->Of(button)->click(); }
@@ -95,11 +98,6 @@ class Photographer {
     main_.Toggle(CheckBox::CheckVisualize);
   }
 
-  void TakeHint() {
-    Click(Button::CommandHint);
-    Take("7-hint");
-  }
-
   int EmptyCell(int from) const {
     while (main_.state().PlayBoard.Board[static_cast<std::size_t>(from)] != 0) ++from;
     return from;
@@ -113,13 +111,12 @@ class Photographer {
       for (int step = wrong; step < kSide; ++step) {
         const int digit = (main_.state().PlayBoard.Solution[i] - 1 + step) % kSide + 1;
         if (!main_.form().Mark(cell, digit).visible) continue;
-        main_.Grid_MouseUp(cell, MouseButton::kLeft, 0, kMarkUnits * ((digit - 1) % 3 + 0.5),
-                           kMarkUnits * ((digit - 1) / 3 + 0.5));
+        emit Board().CellReleased(cell, MouseButton::kLeft, kMarkUnits * ((digit - 1) % 3 + 0.5),
+                                  kMarkUnits * ((digit - 1) / 3 + 0.5));
         break;
       }
       --count;
     }
-    window_.PumpEvents();
   }
 
   QDir folder_;
