@@ -32,8 +32,8 @@ void Stop(QProcess& process) {
 
 }  // namespace
 
-void EndWithThisProcess(QProcess& process) {
-  process.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
+void EndWithParent() {
+  prctl(PR_SET_PDEATHSIG, SIGKILL);
 }
 
 Desktop& TheDesktop() {
@@ -41,8 +41,8 @@ Desktop& TheDesktop() {
 }
 
 Desktop::Desktop() {
-  EndWithThisProcess(display_);
-  EndWithThisProcess(windowManager_);
+  display_.setChildProcessModifier(EndWithParent);
+  windowManager_.setChildProcessModifier(EndWithParent);
   // Nothing of the machine's own desktop may colour, scale or translate what is compared.
   for (const char* name : {"QT_SCALE_FACTOR", "QT_STYLE_OVERRIDE", "QT_QPA_PLATFORMTHEME",
                            "XDG_CURRENT_DESKTOP", "WAYLAND_DISPLAY", "DBUS_SESSION_BUS_ADDRESS"}) {

@@ -34,8 +34,8 @@ class Desktop {
   std::unique_ptr<QApplication> application_;
 };
 
-// Lets no process outlive this one, however this one ends. To be said before its start.
-void EndWithThisProcess(QProcess& process);
+// In a child process: lets it not outlive the thread that made it, however that ends.
+void EndWithParent();
 
 // The desktop of all tests of this program.
 Desktop& TheDesktop();

@@ -1,6 +1,7 @@
 #include "tests/e2e/running_program.h"
 
 #include <signal.h>
+#include <unistd.h>
 
 #include <stdexcept>
 
@@ -10,6 +11,7 @@
 namespace tessel {
 namespace {
 
+constexpr uid_t kNobody = 65534;
 constexpr int kPatienceMs = static_cast<int>(std::chrono::milliseconds(kPatience).count());
 
 }  // namespace
@@ -47,6 +49,13 @@ QSize DesktopWindow::Resize(QSize size) const {
   return Area().size();
 }
 
+bool DesktopWindow::MovesAside() const {
+  const QPoint place = Area().topLeft();
+  const int x = place.x() > 200 ? 100 : 300;
+  TheDesktop().Xdo({"windowmove", id_, QString::number(x), "100"});
+  return Eventually([&] { return Area().topLeft() != place; });
+}
+
 void DesktopWindow::Click(QPoint place, MouseKey button) const {
   TheDesktop().Xdo({"mousemove", "--window", id_, QString::number(place.x()),
                     QString::number(place.y()), "click",
@@ -62,13 +71,12 @@ void DesktopWindow::PressKeys(const QStringList& keys) const {
   TheDesktop().Xdo(QStringList{"key"} + keys);
 }
 
-RunningProgram::RunningProgram(const std::filesystem::path& folder)
-    : RunningProgram(folder, QProcessEnvironment::systemEnvironment()) {}
-
-RunningProgram::RunningProgram(const std::filesystem::path& folder,
-                               const QProcessEnvironment& environment) {
-  EndWithThisProcess(process_);
-  process_.setProcessEnvironment(environment);
+RunningProgram::RunningProgram(const std::filesystem::path& folder, const Launch& launch) {
+  process_.setChildProcessModifier([asNobody = launch.asNobody] {
+    if (asNobody && (setgid(kNobody) != 0 || setuid(kNobody) != 0)) _exit(EXIT_FAILURE);
+    EndWithParent();
+  });
+  process_.setProcessEnvironment(launch.environment);
   process_.setProcessChannelMode(QProcess::ForwardedChannels);
   process_.start(QString::fromStdString((folder / "tessel-sudoku").string()), QStringList());
   if (!Eventually([this] { return !Windows().isEmpty(); })) {

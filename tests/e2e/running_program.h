@@ -28,6 +28,8 @@ class DesktopWindow {
   QImage Screenshot() const;
   // Makes the contents as large as this; tells how large they got.
   QSize Resize(QSize size) const;
+  // Has the window manager put the window elsewhere; whatever it was told before is done then.
+  bool MovesAside() const;
   // A mouse button pressed and released.
   void Click(QPoint place, MouseKey button = MouseKey::kLeft) const;
   // Whether the keyboard's input goes to this window.
@@ -39,11 +41,16 @@ class DesktopWindow {
   QString id_;
 };
 
+// How a program is started.
+struct Launch {
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  bool asNobody = false;  // who may write nowhere; needs root
+};
+
 class RunningProgram {
  public:
   // Starts the program that lies in `folder` and waits for its window.
-  explicit RunningProgram(const std::filesystem::path& folder);
-  RunningProgram(const std::filesystem::path& folder, const QProcessEnvironment& environment);
+  explicit RunningProgram(const std::filesystem::path& folder, const Launch& launch = {});
   RunningProgram(const RunningProgram&) = delete;
   RunningProgram& operator=(const RunningProgram&) = delete;
   // Kills it if it still runs.

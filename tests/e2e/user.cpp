@@ -44,8 +44,8 @@ testing::AssertionResult Differs(const QImage& expected, const QImage& seen) {
 
 }  // namespace
 
-User::User(const std::filesystem::path& folder, const QProcessEnvironment& environment)
-    : program_(folder, environment), twin_(program_.Window().Area().size()) {}
+User::User(const std::filesystem::path& folder, const Launch& launch)
+    : program_(folder, launch), twin_(program_.Window().Area().size()) {}
 
 testing::AssertionResult User::ResizesWindow(QSize size) {
   const QSize reached = program_.Window().Resize(size);
@@ -156,6 +156,13 @@ bool User::LooksEnabled(const char* button, const char* caption) {
   const QImage seen = LooksAt(twin_.AreaOf(button));
   return Distance(seen, twin_.Button(button, caption, true)) <
          Distance(seen, twin_.Button(button, caption, false));
+}
+
+bool User::LooksAsIfFilling() {
+  const QImage seen = LooksAt(twin_.AreaOf("CommandGo"));
+  const long distance = Distance(seen, twin_.RunningButton(Button::CommandGo, "Stop"));
+  return distance < Distance(seen, twin_.RunningButton(Button::CommandGo, "Fill")) &&
+         distance < Distance(seen, twin_.Button("CommandGo", "Fill", true));
 }
 
 testing::AssertionResult User::SeesText(const char* label, const std::string& text) {

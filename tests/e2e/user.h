@@ -27,8 +27,7 @@ enum class Stage { kLayoutNeeded, kLayoutMade, kGridFilled, kPuzzleConcealed };
 class User {
  public:
   // Starts the program that lies in `folder`.
-  explicit User(const std::filesystem::path& folder,
-                const QProcessEnvironment& environment = QProcessEnvironment::systemEnvironment());
+  explicit User(const std::filesystem::path& folder, const Launch& launch = {});
 
   RunningProgram& Program() { return program_; }
   testing::AssertionResult ResizesWindow(QSize size);
@@ -64,8 +63,10 @@ class User {
   // What the board shows now, and whether it is that.
   QImage LooksAtBoard() const;
   bool Recognises(const QImage& picture, const ExpectedBoard& board) const;
-  // Whether the button looks more like this than like its opposite.
+  // Whether the button looks more like an enabled one with this caption than like a disabled one.
   bool LooksEnabled(const char* button, const char* caption);
+  // Whether "Fill" has become the button "Stop" of a running command.
+  bool LooksAsIfFilling();
 
  private:
   QImage LooksAt(const QRect& area) const;

@@ -7,6 +7,13 @@
 #include <stdexcept>
 
 namespace tessel {
+namespace {
+
+QImage Plain(const QPixmap& pixmap) {
+  return pixmap.toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+}  // namespace
 
 WindowTwin::WindowTwin(QSize size)
     : logic_(window_, player_, clock_, random_, folder_.Path().string()) {
@@ -65,13 +72,25 @@ QImage WindowTwin::Button(const char* button, const char* caption, bool enabled)
   auto& widget = Find<QPushButton>(button);
   widget.setText(caption);
   widget.setEnabled(enabled);
-  return widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
+  return Plain(widget.grab());
+}
+
+QImage WindowTwin::RunningButton(tessel::Button button, const char* caption) {
+  auto& panel = *window_.findChild<ControlPanel*>();
+  RecordingView view;
+  Form form(view);
+  form.SetButtonCaption(button, caption);
+  form.ShowSolveButtons(true);
+  panel.Show(form, button);
+  const QImage picture = Plain(panel.Of(button)->grab());
+  panel.Show(form, std::nullopt);
+  return picture;
 }
 
 QImage WindowTwin::Text(const char* label, const std::string& text) {
   auto& widget = Find<QLabel>(label);
   widget.setText(QString::fromStdString(text));
-  return widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
+  return Plain(widget.grab());
 }
 
 }  // namespace tessel

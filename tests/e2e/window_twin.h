@@ -33,6 +33,8 @@ class WindowTwin {
   // The board as it must look, with the keyboard's focus in a cell if it has it.
   QImage Board(const ExpectedBoard& board, std::optional<int> focusedCell) const;
   QImage Button(const char* button, const char* caption, bool enabled);
+  // The button of a command that runs.
+  QImage RunningButton(tessel::Button button, const char* caption);
   QImage Text(const char* label, const std::string& text);
 
  private:
