@@ -10,8 +10,10 @@ namespace {
 
 #ifdef __SANITIZE_ADDRESS__
 constexpr std::uint64_t kSeeds = 3;
+constexpr std::array<std::uint64_t, 1> kUnfillable{9};
 #else
 constexpr std::uint64_t kSeeds = 100;
+constexpr std::array<std::uint64_t, 4> kUnfillable{9, 198, 405, 508};
 #endif
 
 TEST(SawCommand, TakesDigitsAndMarkColoursOffTheBoard) {
@@ -50,10 +52,10 @@ TEST(SawCommand, ShowsItsTimeInTheCaption) {
   EXPECT_EQ(program.state().Stopwatch, nullptr);
 }
 
-// Seeds 9, 198, 405 and 508 walk to layouts that have no filling.
+// From some seeds the walk first comes to a layout that has no filling.
 TEST(SawCommand, EveryLayoutCanBeFilled) {
   TestProgram program(0);
-  for (const std::uint64_t seed : {9, 198, 405, 508}) {
+  for (const std::uint64_t seed : kUnfillable) {
     program.clock.nextSeed = seed;
     program.main.Click(Button::CommandSaw);
     const auto layout = oracle::LayoutOf(program.state().CageOfCell);

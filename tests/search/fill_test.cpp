@@ -12,9 +12,11 @@ using oracle::LiteralLayout;
 using oracle::SampleLayout;
 
 #ifdef __SANITIZE_ADDRESS__
-constexpr std::uint64_t kSeeds = 20;
+constexpr std::uint64_t kSeeds = 8;
+constexpr std::uint64_t kOrders = 3;
 #else
 constexpr std::uint64_t kSeeds = 400;
+constexpr std::uint64_t kOrders = 20;
 #endif
 
 constexpr auto kRandom = LiteralLayout::Mode::kRandom;
@@ -35,7 +37,7 @@ TEST_F(GenerateTessel, EveryGridKeepsTheRulesOfItsLayout) {
 }
 
 TEST_F(GenerateTessel, SameGridAsTheSearchOfTheOrderItDrew) {
-  for (std::uint64_t seed = 0; seed < 20; ++seed) {
+  for (std::uint64_t seed = 0; seed < kOrders; ++seed) {
     rig.clock.nextSeed = seed;
     ASSERT_TRUE(rig.fill.GenerateTessel());
     SeededRandom random(seed);
