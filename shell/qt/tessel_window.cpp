@@ -157,6 +157,7 @@ void TesselWindow::Press(Button button) {
   if (!nested && button <= Button::CommandConceal) {
     running_ = button;
     changedControls_ = true;
+    pump_.Done();  // the press itself was delivered just now
   }
   const bool wasSolving = logic_->form().SolveButtonsVisible();
   logic_->Click(button);
