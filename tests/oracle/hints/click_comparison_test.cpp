@@ -109,6 +109,7 @@ TEST_P(ClickComparison, SayAndShowTheSameOnRandomBoards) {
       ASSERT_NO_FATAL_FAILURE(Click(scene)) << "board " << board << ", click " << click;
     }
   }
+  if (kShareOfBoards > 1) return;  // too few boards for the rarer sentences
   for (const std::string name :
        {"A naked pair is present", "A naked triple is present", "A hidden pair is present",
         "A naked quad is present", "No more logical hints"}) {
