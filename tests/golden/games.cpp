@@ -1,7 +1,6 @@
 #include "tests/golden/games.h"
 
 #include <optional>
-#include <regex>
 
 #include "tests/golden/storyteller.h"
 
@@ -49,22 +48,20 @@ void PlayToTheEnd(Storyteller& teller) {
   teller.DrawBoard();
 }
 
-// The cell that the hint names last.
+// The cell that the hint's last word names.
 std::optional<int> CellInHint(Storyteller& teller) {
-  const std::string text = teller.form().TextHint();
-  static const std::regex name("cell ([A-HJ])([1-9])$");
-  std::smatch found;
-  if (!std::regex_search(text, found, name)) return std::nullopt;
-  const int row = static_cast<int>(std::string("ABCDEFGHJ").find(found[1].str()));
-  return CellAt(row, std::stoi(found[2].str()) - 1);
+  const std::string& text = teller.form().TextHint();
+  if (text.size() < 8 || text.compare(text.size() - 8, 6, " cell ") != 0) return std::nullopt;
+  for (int cell = 0; cell < kCellCount; ++cell) {
+    if (text.ends_with(NameOfCell(cell))) return cell;
+  }
+  return std::nullopt;
 }
 
-// Reads the first number in the hint.
+// The first number in the hint.
 int DigitInHint(Storyteller& teller) {
-  static const std::regex number("[0-9]+");
-  std::smatch found;
-  const std::string text = teller.form().TextHint();
-  return std::regex_search(text, found, number) ? std::stoi(found[0].str()) : 0;
+  const std::string& text = teller.form().TextHint();
+  return std::stoi(text.substr(text.find_first_of("0123456789")));
 }
 
 // A fill that is watched and stopped, then a conceal that is stopped.
