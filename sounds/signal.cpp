@@ -10,41 +10,10 @@ namespace tessel::synth {
 
 namespace {
 
-std::size_t SamplesIn(double seconds) {
-  return static_cast<std::size_t>(seconds * kSampleRate + 0.5);
-}
-
-double TimeOf(std::size_t sample) {
-  return static_cast<double>(sample) / kSampleRate;
-}
-
 // 0 to 1 as `x` goes from 0 to 1, level at both ends.
 double SmoothStep(double x) {
   x = std::clamp(x, 0.0, 1.0);
   return x * x * (3 - 2 * x);
-}
-
-double MeanSquare(Signal::const_iterator begin, Signal::const_iterator end) {
-  double sum = 0;
-  for (auto sample = begin; sample != end; ++sample) sum += *sample * *sample;
-  return begin == end ? 0 : sum / static_cast<double>(end - begin);
-}
-
-double LoudestWindow(const Signal& signal) {
-  const auto window = static_cast<std::ptrdiff_t>(SamplesIn(0.05));
-  double loudest = 0;
-  for (auto begin = signal.begin(); begin < signal.end();) {
-    const auto end = begin + std::min(window, signal.end() - begin);
-    loudest = std::max(loudest, MeanSquare(begin, end));
-    begin = end;
-  }
-  return std::sqrt(loudest);
-}
-
-double Peak(const Signal& signal) {
-  double peak = 0;
-  for (const double sample : signal) peak = std::max(peak, std::abs(sample));
-  return peak;
 }
 
 }  // namespace
@@ -149,14 +118,6 @@ void Add(Signal& mix, double start, const Signal& part, double gain) {
   for (std::size_t i = 0; i < part.size() && first + i < mix.size(); ++i) {
     mix[first + i] += gain * part[i];
   }
-}
-
-Signal Finished(Signal signal, double level) {
-  constexpr double kFade = 0.004;
-  constexpr double kLowestAudible = 30;
-  signal = Shaped(HighPass(std::move(signal), kLowestAudible), kFade, kFade);
-  const double gain = std::min(level / LoudestWindow(signal), kHighestPeak / Peak(signal));
-  return Scaled(std::move(signal), gain);
 }
 
 }  // namespace tessel::synth

@@ -4,6 +4,7 @@
 // optimisation; the functions of the mathematical library do not.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <vector>
@@ -15,6 +16,13 @@ inline constexpr int kSampleRate = 44'100;
 using Signal = std::vector<double>;                   // samples; full scale is -1..1
 using Curve = std::function<double(double seconds)>;  // a pitch in Hz over time
 using Partials = std::vector<double>;                 // weights of the 1st, 2nd, 3rd ... partial
+
+constexpr std::size_t SamplesIn(double seconds) {
+  return static_cast<std::size_t>(seconds * kSampleRate + 0.5);
+}
+constexpr double TimeOf(std::size_t sample) {
+  return static_cast<double>(sample) / kSampleRate;
+}
 
 // The sine of a number of full turns, to nine decimals.
 double Sine(double turns);
