@@ -37,11 +37,11 @@ Signal Hee(double pitch, std::uint64_t seed) {
 // Many hands, none of them in time with another; the crowd joins in and dies away.
 Signal Applause() {
   SeededRandom random(1);
-  Signal crowd = Silence(1.9);
+  Signal crowd = Silence(1.7);
   for (int hands = 0; hands < 24; ++hands) {
     const double loudness = Between(random, 0.3, 1.0);
     const double pause = Between(random, 0.13, 0.22);
-    for (double at = Between(random, 0, 0.4); at < 1.85; at += pause * Between(random, 0.9, 1.1)) {
+    for (double at = Between(random, 0, 0.4); at < 1.65; at += pause * Between(random, 0.9, 1.1)) {
       Add(crowd, at, Clap(random), loudness);
     }
   }
