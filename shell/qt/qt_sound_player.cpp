@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QMediaDevices>
 #include <QSoundEffect>
+#include <atomic>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -21,6 +22,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto kLatestStart = 500ms;
+constexpr int kMostWaiting = 16;
 constexpr auto kPatienceAtEnd = 300ms;
 
 // The objects that a thread still uses when the process ends must not be destroyed under it: ends
@@ -51,6 +53,8 @@ class QtSoundPlayer::Speaker final : public QObject {
   void Play(std::size_t id) {
     if (id < effects_.size()) effects_[id]->play();
   }
+
+  std::atomic<int> waiting = 0;  // plays that were asked for and have not begun
 
  private:
   // An effect stays with the output that it was made for: a new output needs new effects.
@@ -99,9 +103,11 @@ std::int32_t QtSoundPlayer::Load(const std::string& path) {
 }
 
 void QtSoundPlayer::Play(std::int32_t id) {
-  if (id < 0 || id >= count_) return;
+  if (id < 0 || id >= count_ || speaker_->waiting >= kMostWaiting) return;
+  ++speaker_->waiting;
   const QDeadlineTimer latest(kLatestStart);
   QMetaObject::invokeMethod(speaker_, [speaker = speaker_, id, latest] {
+    --speaker->waiting;
     if (!latest.hasExpired()) speaker->Play(static_cast<std::size_t>(id));
   });
 }

@@ -12,8 +12,9 @@
 namespace tessel {
 
 // A thread of its own talks to the sound server, because connecting to one, and even starting a
-// sound, waits for its answer: a server that is slow, stopped or gone holds up no window. There is
-// silence then, and sound again once a server is there that Qt finds.
+// sound, waits for its answer: for half a minute when the server is stopped, for ever when it dies
+// in that moment. Nothing of that holds up the window; there is silence. A server that comes back
+// is used again unless it died in such a moment.
 class QtSoundPlayer final : public SoundPlayer {
  public:
   QtSoundPlayer() = default;
@@ -29,7 +30,7 @@ class QtSoundPlayer final : public SoundPlayer {
   // Hands out the identifier at once and loads in the thread. Negative for what is not a WAV file
   // of plain numbers, or too big for a sound.
   std::int32_t Load(const std::string& path) override;
-  // A sound that could not be started within half a second is left out.
+  // Returns at once; a sound that could not be started within half a second is left out.
   void Play(std::int32_t id) override;
 
  private:
