@@ -56,9 +56,9 @@ class ExactCoverSearch {
   // unfilled peers without logging it, and moves the cell to position Ptr. False when there is
   // none.
   bool DLXNakedSingle(int Ptr);
-  // Logs the placing of `Candidate` in `Cell`, whose Digit must be set, and takes the digit from
-  // the cells at positions 0..RemovePtr that share a house with it. A cell that shares the row is
-  // logged in the row mask alone, else one that shares the column in the column mask alone.
+  // Writes `Candidate` into `Cell` and takes it from the cells at positions 0..RemovePtr that share
+  // a house with it, which a new entry of the log names: a cell that shares the row in the row mask
+  // alone, else one that shares the column in the column mask alone.
   void DLXRemoveCandidates(int Cell, int Candidate, int RemovePtr);
   // Reverts the newest entry of the log. The placed cell's own candidates were never touched.
   void DLXUndo();
