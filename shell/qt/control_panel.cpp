@@ -141,7 +141,6 @@ void ControlPanel::MakeButtons() {
     auto* button = new QPushButton(parent);
     button->setObjectName(plan.name);
     button->setToolTip(WithKeys(plan.tip, plan.keys));
-    button->setAutoDefault(true);
     connect(button, &QPushButton::clicked, this, [this, plan] { emit ButtonClicked(plan.button); });
     ClickOn(button, plan.keys);
     buttons_[tessel::IndexOf(plan.button)] = button;
@@ -164,7 +163,6 @@ void ControlPanel::MakeHelp() {
   help_ = new QPushButton("Help", this);
   help_->setObjectName("Help");
   help_->setToolTip(WithKeys("How to make and play a puzzle", "F1"));
-  help_->setAutoDefault(true);
   connect(help_, &QPushButton::clicked, this, &ControlPanel::HelpClicked);
   ClickOn(help_, "F1");
 }
@@ -284,8 +282,16 @@ void ControlPanel::ArrangeBelow() {
 }
 
 void ControlPanel::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) Measure();
   QWidget::changeEvent(event);
+  if (event->type() != QEvent::FontChange && event->type() != QEvent::StyleChange) return;
+  // Later: the controls in the panel have not yet heard of it.
+  QMetaObject::invokeMethod(
+      this,
+      [this] {
+        Measure();
+        emit RoomChanged();
+      },
+      Qt::QueuedConnection);
 }
 
 }  // namespace tessel

@@ -41,6 +41,8 @@ class ControlPanel final : public QWidget {
   void ButtonClicked(tessel::Button button);
   void BoxClicked(tessel::CheckBox box);
   void HelpClicked();
+  // The desktop changed its font or style: the panel takes other room now.
+  void RoomChanged();
 
  protected:
   void changeEvent(QEvent* event) override;

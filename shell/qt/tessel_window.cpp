@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QBoxLayout>
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <thread>
 
@@ -15,6 +16,7 @@ namespace {
 
 constexpr QSize kLeastWindow(480, 520);
 constexpr QSize kUsualWindow(900, 640);
+constexpr int kWidthForNotice = 860;  // a path and the system's words fit into one line
 constexpr int kWideMargin = 8;
 constexpr int kTightMargin = 4;  // where the panel takes height from the board
 
@@ -34,6 +36,7 @@ TesselWindow::TesselWindow()
   notice_->setObjectName("Notice");
   notice_->setTextFormat(Qt::PlainText);
   notice_->setWordWrap(true);
+  notice_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   BuildLayout();
   connect(panel_, &ControlPanel::ButtonClicked, this, &TesselWindow::Press);
   connect(panel_, &ControlPanel::BoxClicked, this, [this](CheckBox box) {
@@ -42,6 +45,7 @@ TesselWindow::TesselWindow()
     Sync();
   });
   connect(panel_, &ControlPanel::HelpClicked, this, &TesselWindow::OpenHelp);
+  connect(panel_, &ControlPanel::RoomChanged, this, &TesselWindow::ArrangePanel);
   connect(board_, &BoardWidget::CellReleased, this,
           [this](int cell, MouseButton button, double x, double y) {
             logic_->Grid_MouseUp(cell, button, 0, x, y);
@@ -148,6 +152,7 @@ void TesselWindow::SyncControls() {
   }
   setWindowTitle(QString::fromStdString(form.Caption()));
   notice_->setText(QString::fromStdString(form.Notice()));
+  notice_->setToolTip(notice_->text());
 }
 
 void TesselWindow::Press(Button button) {
@@ -174,6 +179,18 @@ void TesselWindow::closeEvent(QCloseEvent* event) {
   event->setAccepted(logic_ == nullptr || logic_->Form_QueryUnload());
 }
 
+// Enter presses the focused button, as Space does by itself. A held key presses it once: the second
+// press would stop what the first one started.
+void TesselWindow::keyPressEvent(QKeyEvent* event) {
+  auto* const button = qobject_cast<QPushButton*>(focusWidget());
+  const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (!isEnter || button == nullptr || event->isAutoRepeat()) {
+    QWidget::keyPressEvent(event);
+    return;
+  }
+  button->click();
+}
+
 void TesselWindow::resizeEvent(QResizeEvent* event) {
   ArrangePanel();
   QWidget::resizeEvent(event);
@@ -192,7 +209,8 @@ void TesselWindow::ArrangePanel() {
   layout()->setContentsMargins(margin, margin, margin, margin);
   layout()->setSpacing(margin);
   boardAndPanel_->setSpacing(margin);
-  notice_->setFixedHeight((isBeside ? 1 : 2) * notice_->fontMetrics().lineSpacing());
+  const int lines = width() < kWidthForNotice ? 2 : 1;
+  notice_->setFixedHeight(lines * notice_->fontMetrics().lineSpacing());
 }
 
 void TesselWindow::OpenHelp() {

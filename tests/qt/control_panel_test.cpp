@@ -183,6 +183,22 @@ TEST(ControlPanel, LongHintIsShownWhole) {
   }
 }
 
+TEST(ControlPanel, LargerDesktopFontIsGivenRoom) {
+  const QFont before = QApplication::font();
+  WindowProgram program(QSize(900, 640));
+  program.OpenPuzzle();
+  QFont larger = before;
+  larger.setPointSizeF(before.pointSizeF() * 1.3);
+  QApplication::setFont(larger);
+  for (int round = 0; round < 5; ++round) QCoreApplication::processEvents();
+  for (const auto& [name, caption] : kCaptions) {
+    const auto* control = program.Find<QAbstractButton>(name.c_str());
+    EXPECT_GE(control->width(), control->fontMetrics().horizontalAdvance(control->text())) << name;
+    EXPECT_GE(control->height(), control->minimumSizeHint().height()) << name;
+  }
+  QApplication::setFont(before);
+}
+
 TEST(ControlPanel, NoticeStandsAtTheFootWithoutAJump) {
   WindowProgram program;
   const QLabel* notice = program.Find<QLabel>("Notice");

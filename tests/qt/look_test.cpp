@@ -52,27 +52,29 @@ TEST(Look, UpdatesLeaveNoTraces) {
   ExpectBoardShowsTheForm(program);
 }
 
-TEST(Look, BordersAreSharp) {
-  WindowProgram program(QSize(733, 601));
-  program.Click("CommandSaw");
-  program.Push("CommandSaw")->setFocus();
-  BoardWidget& board = *program.Board();
-  const QImage seen = Seen(board);
-  const BoardGeometry geometry = board.Geometry();
-  EXPECT_EQ(geometry.CellSide() % 3, 0);
-  for (int cell = 0; cell < kCellCount; ++cell) {
-    if (ColumnOf(cell) == kSide - 1) continue;
-    const QRect right = geometry.CellRect(cell + 1);
-    const int y = right.top() + geometry.CellSide() / 2;
-    const int left = right.left() - geometry.BorderWidth() / 2;
-    const bool border = program.state().CageOfCell[static_cast<std::size_t>(cell)] !=
-                        program.state().CageOfCell[static_cast<std::size_t>(cell + 1)];
-    for (int x = left; x < left + geometry.BorderWidth(); ++x) {
-      if (border) {
-        EXPECT_EQ(seen.pixelColor(x, y), QColor(Qt::black)) << cell;
-      } else {
-        EXPECT_NE(seen.pixelColor(x, y), QColor(Qt::black)) << cell;
-      }
+// In the window, where the board's corner may lie inside a device pixel.
+TEST(Look, BordersAreSharpWhereverTheBoardLies) {
+  for (const QSize size : {QSize(733, 601), QSize(734, 602), QSize(515, 801)}) {
+    WindowProgram program(size);
+    program.Click("CommandSaw");
+    program.Push("CommandSaw")->setFocus();
+    BoardWidget& board = *program.Board();
+    const QImage seen = Seen(program.window);
+    const QPointF corner =
+        QPointF(board.mapTo(&program.window, QPoint(0, 0))) * board.devicePixelRatioF();
+    const QPoint offset(qCeil(corner.x()), qCeil(corner.y()));
+    const BoardGeometry geometry = board.Geometry();
+    const int width = geometry.BorderWidth();
+    for (int cell = 0; cell < kCellCount - 1; ++cell) {
+      const bool border = program.state().CageOfCell[static_cast<std::size_t>(cell)] !=
+                          program.state().CageOfCell[static_cast<std::size_t>(cell + 1)];
+      if (ColumnOf(cell) == kSide - 1 || !border) continue;
+      const QRect right = geometry.CellRect(cell + 1).translated(offset);
+      const int y = right.top() + geometry.CellSide() / 2;
+      const QRect line(right.left() - width / 2, y, width, 1);
+      EXPECT_EQ(CountIn(seen, line, Qt::black), width) << cell;
+      EXPECT_NE(seen.pixelColor(line.left() - 1, y), QColor(Qt::black)) << cell;
+      EXPECT_NE(seen.pixelColor(line.right() + 1, y), QColor(Qt::black)) << cell;
     }
   }
 }

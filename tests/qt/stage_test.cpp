@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QMessageBox>
 
 #include "tests/qt/window_program.h"
@@ -168,6 +169,17 @@ TEST(Stage, FocusReturnsToTheButtonThatWasPressed) {
   program.Key(Qt::Key_Space);
   EXPECT_TRUE(program.Push("CommandGo")->isEnabled());
   EXPECT_TRUE(program.Push("CommandSaw")->hasFocus());
+}
+
+TEST(Stage, EnterPressesTheFocusedButtonOnce) {
+  WindowProgram program;
+  program.window.activateWindow();
+  program.Push("CommandSaw")->setFocus();
+  QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
+  QCoreApplication::sendEvent(program.Push("CommandSaw"), &held);
+  EXPECT_EQ(Enabled(program), "10001");
+  program.Key(Qt::Key_Return);
+  EXPECT_EQ(Enabled(program), "11001");
 }
 
 // Waits for the next question, notes how it looks, and answers it.
