@@ -112,6 +112,13 @@ TEST_F(FormTest, MarkWritesReportTheirCell) {
   EXPECT_FALSE(form.Mark(8, 5).bold);
 }
 
+TEST_F(FormTest, TheCellHoldsItsMarksInTheOrderOfTheDigits) {
+  form.SetMarkVisible(7, 1, false);
+  form.SetMarkBold(7, 9, true);
+  EXPECT_FALSE(form.Cell(7).marks.front().visible);
+  EXPECT_TRUE(form.Cell(7).marks.back().bold);
+}
+
 TEST_F(FormTest, TheMarksOfACellChangeTogether) {
   form.SetMarkVisible(3, 4, false);
   EXPECT_EQ(ChangesOf([&] { form.SetMarksVisible(3, false); }).size(), 8u);
