@@ -1,0 +1,57 @@
+// A player who makes puzzles of every kind and plays them by hints, mistakes included. What does
+// not hold fails as in a test.
+#pragma once
+
+#include <string>
+
+#include "core/random_source.h"
+#include "tests/fakes/test_program.h"
+
+namespace tessel {
+
+class Player {
+ public:
+  // One program, used from the first puzzle to the last.
+  explicit Player(std::uint64_t seed);
+
+  // Saws, fills and conceals in a mode chosen at random, now and then after a command stopped half
+  // way, and checks layout, solution, puzzle and file.
+  void MakePuzzle();
+  // Plays the puzzle to its end.
+  void PlayGame();
+
+  struct Counts {
+    long puzzles = 0;
+    long stops = 0;
+    long games = 0;
+    long hints = 0;
+    long mistakes = 0;
+    long repairs = 0;
+    long digitsWithoutHint = 0;
+    long events = 0;
+  };
+  Counts made;
+
+ private:
+  int Draw(int n) { return DrawIndex(random_, n); }
+  void Click(Button button);
+  void ClickMark(int cell, int digit, MouseButton button);
+  void RunCommand(Button button, Button next);
+  void CheckLayout();
+  void CheckSolution();
+  void CheckPuzzle();
+
+  std::string AskHint();
+  void MakeMistakes();
+  void RepairMistakes();
+  bool Repair(const std::string& sentence);
+  void RemoveStaleMarks(int cell);
+  void PlaceSomeDigit();
+
+  SeededRandom random_;
+  TestProgram program_;
+  GameState& state_;
+  long stopAt_ = 0;  // the pump of the running command that brings a click on its button
+};
+
+}  // namespace tessel
