@@ -7,8 +7,8 @@
 
 namespace tessel {
 
-CheckedProgram::CheckedProgram(std::uint64_t firstSeed)
-    : program_(firstSeed),
+CheckedProgram::CheckedProgram(std::uint64_t firstSeed, SystemCalls& system)
+    : program_(firstSeed, system),
       form_(program_.form()),
       state_(program_.state()),
       caption_(texts::kProgram) {

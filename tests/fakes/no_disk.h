@@ -1,0 +1,26 @@
+// System calls that touch no disk: a file of any name is empty, takes every byte and forgets it.
+#pragma once
+
+#include "shell/system_calls.h"
+
+namespace tessel {
+
+class NoDisk final : public SystemCalls {
+ public:
+  int Open(const char*, int, mode_t) override { return 3; }
+  int Flock(int, int) override { return 0; }
+  int Fstat(int, struct stat* status) override {
+    *status = {};
+    status->st_mode = S_IFREG;
+    return 0;
+  }
+  ssize_t Pwrite(int, const void*, std::size_t count, off_t) override {
+    return static_cast<ssize_t>(count);
+  }
+  int Ftruncate(int, off_t) override { return 0; }
+  int Fsync(int) override { return 0; }
+  int Close(int) override { return 0; }
+  void SleepMilliseconds(int) override {}
+};
+
+}  // namespace tessel
