@@ -43,6 +43,7 @@ CageGenerator::CageGenerator(GameState& state, Form& form, View& view, RandomSou
 
 void CageGenerator::BuildTesselPattern() {
   random_.Seed(clock_.Seed());
+  nextDirection_ = DrawDirection();
   while (!Attempt()) {
   }
   for (int cell = 0; cell < kCellCount; ++cell) Paint(cell);
@@ -155,10 +156,13 @@ bool CageGenerator::ClaimNextCentreCell() {
   return false;
 }
 
-// The cell that one step of the walk leads to, in a random direction.
+// The cell that one step of the walk leads to, in a random direction. The direction of the step
+// after it is drawn already: what this step finds is hard to foresee, and the processor would wait
+// for the draw each time it guessed wrong.
 int CageGenerator::StepInto() {
   view_.PumpEvents();
-  return kNeighbours[CurrentCell][DrawIndex(random_, 4)];
+  const int direction = std::exchange(nextDirection_, DrawDirection());
+  return kNeighbours[CurrentCell][direction];
 }
 
 // A cage that touches no unclaimed cell could never claim one nor count a failure: the walk would

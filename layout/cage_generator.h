@@ -36,6 +36,7 @@ class CageGenerator {
   bool ClaimNextCentreCell();
   bool IsEnclosed() const;
   int StepInto();
+  int DrawDirection() { return DrawIndex(random_, 4); }
   void StartCage(int cage, int cell);
   void Claim(int cell, int cage);
   void GiveBack(int cell);
@@ -48,6 +49,8 @@ class CageGenerator {
   RandomSource& random_;
   Clock& clock_;
   AcceptLayout accept_;
+
+  int nextDirection_ = 0;
 
   // The attempt at work. Every step below is part of one; those that can fail return false when the
   // attempt is to be abandoned.
