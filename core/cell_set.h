@@ -62,8 +62,9 @@ constexpr CellSet FirstRegionOf(CellSet area) {
   CellSet region = CellSet::Of(area.First());
   while (true) {
     const CellSet grown = region | NeighboursOf(region, area);
-    if (grown == region) return region;
-    region = grown;
+    const CellSet grownTwice = grown | NeighboursOf(grown, area);
+    if (grownTwice == grown) return grown;
+    region = grownTwice;
   }
 }
 

@@ -16,8 +16,8 @@ bool OpenField(CellSet unclaimed, int CellsToCover, int CurrentCage, int /*LastA
   const int empty = (kSide - CurrentCage) * kSide + CellsToCover;
   if (empty == 0) return true;
   const CellSet first = FirstRegionOf(unclaimed);
+  if (first == unclaimed) return true;
   const int size1 = first.Count();
-  if (size1 == empty) return true;
   const int size2 = FirstRegionOf(unclaimed - first).Count();
   if (size1 + size2 != empty) return false;
   return size1 % kSide <= CellsToCover || size2 % kSide <= CellsToCover;
