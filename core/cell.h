@@ -1,6 +1,7 @@
 // Cells, digits and candidate masks: the addressing that every folder shares.
 #pragma once
 
+#include <bit>
 #include <cstdint>
 
 namespace tessel {
@@ -32,6 +33,10 @@ constexpr Mask BitOf(int digit) {
 }
 constexpr bool Holds(Mask mask, int digit) {
   return (mask & BitOf(digit)) != 0;
+}
+// The mask must not be empty.
+constexpr int LowestDigitOf(Mask mask) {
+  return std::countr_zero(static_cast<unsigned>(mask)) + 1;
 }
 constexpr Mask Without(Mask mask, Mask removed) {
   return static_cast<Mask>(mask & ~removed);

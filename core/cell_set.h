@@ -43,17 +43,27 @@ struct CellSet {
 
 inline constexpr CellSet kAllCells{(std::uint64_t{1} << 45) - 1, (std::uint64_t{1} << 36) - 1};
 
-// The cells of `area` that touch a cell of `cells` by a side; they may lie in `cells` themselves.
-constexpr CellSet NeighboursOf(CellSet cells, CellSet area = kAllCells) {
+// The cells to the left and right of the cells of `cells`, and those themselves.
+constexpr CellSet WithBeside(CellSet cells) {
   constexpr std::uint64_t firstColumn = 0x1008040201;  // of five rows
   constexpr std::uint64_t notFirst = ~firstColumn;
   constexpr std::uint64_t notLast = ~(firstColumn << (kSide - 1));
-  const auto beside = [](std::uint64_t rows) {
-    return (rows & notLast) << 1 | (rows & notFirst) >> 1 | rows << kSide | rows >> kSide;
+  const auto spread = [](std::uint64_t rows) {
+    return rows | (rows & notLast) << 1 | (rows & notFirst) >> 1;
   };
-  const CellSet across{cells.lower << (CellSet::kUpperCells - kSide),
-                       cells.upper >> (CellSet::kUpperCells - kSide)};
-  return (CellSet{beside(cells.upper), beside(cells.lower)} | across) & area;
+  return {spread(cells.upper), spread(cells.lower)};
+}
+
+// The cells above and below the cells of `cells`, and those themselves; may go beyond the board.
+constexpr CellSet WithAboveAndBelow(CellSet cells) {
+  constexpr int seam = CellSet::kUpperCells - kSide;
+  return {cells.upper | cells.upper << kSide | cells.upper >> kSide | cells.lower << seam,
+          cells.lower | cells.lower << kSide | cells.lower >> kSide | cells.upper >> seam};
+}
+
+// The cells outside `cells` that touch one of them by a side.
+constexpr CellSet NeighboursOf(CellSet cells) {
+  return ((WithBeside(cells) | WithAboveAndBelow(cells)) & kAllCells) - cells;
 }
 
 // The connected cells of `area` around its lowest-numbered cell; empty when `area` is.
@@ -61,10 +71,10 @@ constexpr CellSet FirstRegionOf(CellSet area) {
   if (area.Empty()) return area;
   CellSet region = CellSet::Of(area.First());
   while (true) {
-    const CellSet grown = region | NeighboursOf(region, area);
-    const CellSet grownTwice = grown | NeighboursOf(grown, area);
-    if (grownTwice == grown) return grown;
-    region = grownTwice;
+    const CellSet wider = WithBeside(region) & area;
+    const CellSet grown = WithAboveAndBelow(wider) & area;
+    if (grown == region) return region;
+    region = grown;
   }
 }
 

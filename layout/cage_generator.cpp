@@ -168,7 +168,7 @@ int CageGenerator::StepInto() {
 // A cage that touches no unclaimed cell could never claim one nor count a failure: the walk would
 // not end. Happens in rotational layouts, in pockets that cages and their mirrors have closed off.
 bool CageGenerator::IsEnclosed() const {
-  return NeighboursOf(grown_, unclaimed_).Empty();
+  return (NeighboursOf(grown_) & unclaimed_).Empty();
 }
 
 void CageGenerator::StartCage(int cage, int cell) {

@@ -17,9 +17,10 @@ bool OpenField(CellSet unclaimed, int CellsToCover, int CurrentCage, int /*LastA
   if (empty == 0) return true;
   const CellSet first = FirstRegionOf(unclaimed);
   if (first == unclaimed) return true;
+  const CellSet second = FirstRegionOf(unclaimed - first);
+  if ((first | second) != unclaimed) return false;
   const int size1 = first.Count();
-  const int size2 = FirstRegionOf(unclaimed - first).Count();
-  if (size1 + size2 != empty) return false;
+  const int size2 = empty - size1;
   return size1 % kSide <= CellsToCover || size2 % kSide <= CellsToCover;
 }
 

@@ -78,9 +78,10 @@ class ExactCoverSearch {
   void ChooseCell();
   Outlook TryFirstDigit();
   std::optional<Outlook> TryNextDigit();
-  void PropagateSingles(SearchDriver& driver);
+  void PropagateSingles(SearchDriver& driver, Outlook outlook);
   void OpenLevel();
-  std::optional<Outlook> PlaceSingle(int Ptr);
+  Outlook PlaceNextSingle(const Outlook& outlook);
+  Outlook PlaceSingle(int k, int ptr);
   Outlook Remove(int cell, int digit, int removePtr);
   std::int16_t& Pos() { return levelPos_[Depth]; }
 

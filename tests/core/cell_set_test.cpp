@@ -99,8 +99,10 @@ TEST(NeighboursOf, TouchBySideAndDoNotWrapAroundTheEdges) {
   }
 }
 
-TEST(NeighboursOf, StaysOnTheBoard) {
-  EXPECT_EQ(NeighboursOf(kAllCells), kAllCells);
+TEST(NeighboursOf, StayOutsideTheSetAndOnTheBoard) {
+  EXPECT_TRUE(NeighboursOf(kAllCells).Empty());
+  const CellSet corner = CellSet::Of(79) | CellSet::Of(80);
+  EXPECT_EQ(ToNaive(NeighboursOf(corner)), (NaiveSet{70, 71, 78}));
 }
 
 TEST(FirstRegionOf, AgreesWithANaiveFloodFill) {
