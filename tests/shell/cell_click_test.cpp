@@ -46,6 +46,12 @@ TEST_F(CellClick, LeftOnACellWithADigitDoesNothing) {
   });
 }
 
+TEST_F(CellClick, LeftLeavesADigitEvenWhereAMarkIsShown) {
+  state().PlayBoard.Board[kEmpty] = 5;  // not yet drawn
+  ASSERT_TRUE(Holds(Shown(kEmpty), 2));
+  ExpectNothingHappens([&] { Left(kEmpty, 2); });
+}
+
 // The left click asks whether the mark is shown, not whether the digit is a candidate.
 TEST_F(CellClick, LeftPlacesAnyDigitWhileMarksAreNotUpdated) {
   Untick();

@@ -1,6 +1,7 @@
 #include <cmath>
 #include <limits>
 
+#include "tests/shell/disturbance.h"
 #include "tests/shell/solving_test.h"
 
 namespace tessel {
@@ -33,21 +34,22 @@ TEST_F(ClickPosition, APositionNamesTheDigitOfItsSquare) {
 }
 
 TEST_F(ClickPosition, APositionThatNamesNoDigitDoesNothing) {
-  Untick();
-  ExpectNothingHappens([&] {
+  constexpr double infinite = std::numeric_limits<double>::infinity();
+  const auto clickBesideTheCell = [&] {
     for (const auto& [x, y] :
          {std::pair{0.0, 375.0}, std::pair{375.0, 300.0}, std::pair{0.0, -1.0},
-          std::pair{-1.0, 0.0}, std::pair{300.0, -200.0}, std::pair{1e300, 1e300},
-          std::pair{-1e300, 0.0}, std::pair{std::nan(""), 0.0}, std::pair{0.0, std::nan("")},
-          std::pair{-std::numeric_limits<double>::infinity(), 0.0},
-          std::pair{std::numeric_limits<double>::infinity(),
-                    -std::numeric_limits<double>::infinity()}}) {
-      for (const MouseButton button :
-           {MouseButton::kLeft, MouseButton::kRight, MouseButton::kMiddle}) {
+          std::pair{-1.0, 0.0}, std::pair{300.0, -1.0}, std::pair{300.0, -200.0},
+          std::pair{1e300, 1e300}, std::pair{-1e300, 0.0}, std::pair{std::nan(""), 0.0},
+          std::pair{0.0, std::nan("")}, std::pair{-infinite, 0.0},
+          std::pair{infinite, -infinite}}) {
+      for (const MouseButton button : kMouseButtons) {
         program.main.Grid_MouseUp(kEmpty, button, 0, x, y);
       }
     }
-  });
+  };
+  ExpectNothingHappens(clickBesideTheCell);
+  Untick();
+  ExpectNothingHappens(clickBesideTheCell);
 }
 
 // Deliberate: only the resulting digit is checked, so a position beside the cell can name the digit
