@@ -226,8 +226,9 @@ bool BoardWidget::ActOnKey(const QKeyEvent& event) {
 }
 
 void BoardWidget::ReleaseOnMark(int digit, MouseButton button) {
-  emit CellReleased(focusedCell_, button, kMarkUnits * ((digit - 1) % 3 + 0.5),
-                    kMarkUnits * ((digit - 1) / 3 + 0.5));
+  const int row = (digit - 1) / 3;
+  const int column = (digit - 1) % 3;
+  emit CellReleased(focusedCell_, button, kMarkUnits * (column + 0.5), kMarkUnits * (row + 0.5));
 }
 
 }  // namespace tessel
