@@ -29,7 +29,6 @@ void ExactCoverSearch::Reset() {
   levelStart_.resize(1);
   Levels[0].UndoCount = 0;
   Levels[0].Digit.fill(kBeyondTheBoard);
-  Levels[0].Order.fill(kBeyondTheBoard);
   Levels[0].LastChoice.fill(kNo);
   Levels[0].Candidates.fill(kAllCandidates);
 }
@@ -37,7 +36,7 @@ void ExactCoverSearch::Reset() {
 void ExactCoverSearch::StartEmpty(const PerCell<std::int16_t>& order) {
   Reset();
   std::fill_n(Levels[0].Digit.begin(), kCellCount, std::int16_t{0});
-  std::ranges::copy(order, Levels[0].Order.begin());
+  Levels[0].Order = order;
   levelPos_[0] = kLastPosition;
   levelStart_[0] = kLastPosition;
 }
@@ -79,8 +78,8 @@ void ExactCoverSearch::Step(SearchDriver& driver) {
   // Step 9. A dead end sends the search back to the cell just placed.
   if (outlook->deadEnd) {
     ++Pos();
-  } else if (outlook->singles > 0) {
-    PropagateSingles(driver, *outlook);
+  } else if (outlook->single) {
+    PropagateSingles(driver);
   }
 }
 
@@ -103,8 +102,10 @@ void ExactCoverSearch::ChooseCell() {
 Outlook ExactCoverSearch::TryFirstDigit() {
   SearchLevel& level = Levels[Depth];
   const int cell = level.Order[Pos()];
+  int digit = 1;
+  while (!Holds(level.Candidates[cell], digit)) ++digit;
   if (state_.BitCount[level.Candidates[cell]] == 1) level.LastChoice[cell] = kYes;
-  return Remove(cell, LowestDigitOf(level.Candidates[cell]), Pos() - 1);
+  return Remove(cell, digit, Pos() - 1);
 }
 
 // Step 8. None when the cell's digits are used up; it is empty again then.
@@ -117,8 +118,8 @@ std::optional<Outlook> ExactCoverSearch::TryNextDigit() {
     level.LastChoice[cell] = kNo;
     return std::nullopt;
   }
-  const auto higher = static_cast<Mask>(level.Candidates[cell] >> oldDigit);
-  const int digit = oldDigit + LowestDigitOf(higher);
+  int digit = oldDigit + 1;
+  while (!Holds(level.Candidates[cell], digit)) ++digit;
   const bool higherLeft = (level.Candidates[cell] >> digit) != 0;
   level.LastChoice[cell] = higherLeft ? kNo : kYes;
   return Remove(cell, digit, Pos() - 1);
@@ -126,14 +127,15 @@ std::optional<Outlook> ExactCoverSearch::TryNextDigit() {
 
 // Step 10. There is a single to be placed. A contradiction drops the singles and goes back to the
 // cell placed last.
-void ExactCoverSearch::PropagateSingles(SearchDriver& driver, Outlook outlook) {
+void ExactCoverSearch::PropagateSingles(SearchDriver& driver) {
   OpenLevel();
+  std::optional<Outlook> outlook;
   do {
-    outlook = PlaceNextSingle(outlook);
+    outlook = PlaceSingle(Pos());
     --Pos();
     driver.SinglePlaced(Pos(), Levels[Depth].Order[Pos() + 1]);
-  } while (outlook.singles > 0 && !outlook.deadEnd);
-  if (outlook.deadEnd) {
+  } while (outlook->single && !outlook->deadEnd);
+  if (outlook->deadEnd) {
     --Depth;
     ++Pos();
     return;

@@ -78,10 +78,9 @@ class ExactCoverSearch {
   void ChooseCell();
   Outlook TryFirstDigit();
   std::optional<Outlook> TryNextDigit();
-  void PropagateSingles(SearchDriver& driver, Outlook outlook);
+  void PropagateSingles(SearchDriver& driver);
   void OpenLevel();
-  Outlook PlaceNextSingle(const Outlook& outlook);
-  Outlook PlaceSingle(int k, int ptr);
+  std::optional<Outlook> PlaceSingle(int Ptr);
   Outlook Remove(int cell, int digit, int removePtr);
   std::int16_t& Pos() { return levelPos_[Depth]; }
 

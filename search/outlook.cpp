@@ -23,47 +23,35 @@ constexpr Mask WithoutLowest(Mask mask) {
   return static_cast<Mask>(mask & static_cast<Mask>(mask - 1));
 }
 
-// The cells' own numbers.
-constexpr Lanes kCells = [] {
-  Lanes cells{};
-  for (int cell = 0; cell < kLaneCount; ++cell) cells[cell] = static_cast<std::int16_t>(cell);
-  return cells;
-}();
-
 }  // namespace
 
 TESSEL_WIDE_VECTORS Outlook OutlookOf(const SearchLevel& level) {
   Mask none = 0;
-  Mask singles = 0;
-  Mask sumOfSingles = 0;
+  Mask atMostOne = 0;
   for (int cell = 0; cell < kLaneCount; ++cell) {
     const Mask unfilled = LaneOfEmpty(level.Digit[cell]);
     const Mask mask = level.Candidates[cell];
-    const auto atMostOne = static_cast<Mask>(unfilled & LaneOfEmpty(WithoutLowest(mask)));
     none = static_cast<Mask>(none | (unfilled & LaneOfEmpty(mask)));
-    singles = static_cast<Mask>(singles - atMostOne);
-    sumOfSingles = static_cast<Mask>(sumOfSingles + (atMostOne & kCells[cell]));
+    atMostOne = static_cast<Mask>(atMostOne | (unfilled & LaneOfEmpty(WithoutLowest(mask))));
   }
-  return {none != 0, singles, sumOfSingles};
+  return {none != 0, atMostOne != 0};
 }
 
 TESSEL_WIDE_VECTORS Outlook TakeFromPeers(SearchLevel& level, const HouseLanes& lanes, int placed,
                                           Mask bit) {
   const Lanes& peers = lanes.Peers(placed);
   Mask none = 0;
-  Mask singles = -1;  // the placed cell is one itself
-  auto sumOfSingles = static_cast<Mask>(-placed);
+  Mask atMostOneCount = 0;
   for (int cell = 0; cell < kLaneCount; ++cell) {
     const Mask unfilled = LaneOfEmpty(level.Digit[cell]);
     const auto taken = static_cast<Mask>(peers[cell] & bit & unfilled);
     const Mask mask = Without(level.Candidates[cell], taken);
-    const auto atMostOne = static_cast<Mask>(unfilled & LaneOfEmpty(WithoutLowest(mask)));
     level.Candidates[cell] = mask;
     none = static_cast<Mask>(none | (unfilled & LaneOfEmpty(mask)));
-    singles = static_cast<Mask>(singles - atMostOne);
-    sumOfSingles = static_cast<Mask>(sumOfSingles + (atMostOne & kCells[cell]));
+    const auto atMostOne = static_cast<Mask>(unfilled & LaneOfEmpty(WithoutLowest(mask)));
+    atMostOneCount = static_cast<Mask>(atMostOneCount - atMostOne);
   }
-  return {none != 0, singles, sumOfSingles};
+  return {none != 0, atMostOneCount > 1};  // the placed cell is one itself
 }
 
 TESSEL_WIDE_VECTORS Outlook TakeFromPeersLogged(SearchLevel& level, const HouseLanes& lanes,
@@ -77,8 +65,7 @@ TESSEL_WIDE_VECTORS Outlook TakeFromPeersLogged(SearchLevel& level, const HouseL
   Mask columnMask = 0;
   Mask cageMask = 0;
   Mask none = 0;
-  Mask singles = 0;
-  Mask sumOfSingles = 0;
+  Mask atMostOne = 0;
   for (int cell = 0; cell < kLaneCount; ++cell) {
     const auto unfilled = static_cast<Mask>(LaneOfEmpty(level.Digit[cell]) & ~own[cell]);
     const auto taken = static_cast<Mask>(level.Candidates[cell] & peers[cell] & bit & unfilled);
@@ -89,25 +76,13 @@ TESSEL_WIDE_VECTORS Outlook TakeFromPeersLogged(SearchLevel& level, const HouseL
     cageMask = static_cast<Mask>(cageMask | (cage[cell] & lost & outsideLines));
     const Mask mask = Without(level.Candidates[cell], taken);
     level.Candidates[cell] = mask;
-    const auto atMostOne = static_cast<Mask>(unfilled & LaneOfEmpty(WithoutLowest(mask)));
     none = static_cast<Mask>(none | (unfilled & LaneOfEmpty(mask)));
-    singles = static_cast<Mask>(singles - atMostOne);
-    sumOfSingles = static_cast<Mask>(sumOfSingles + (atMostOne & kCells[cell]));
+    atMostOne = static_cast<Mask>(atMostOne | (unfilled & LaneOfEmpty(WithoutLowest(mask))));
   }
   level.UndoRowMask[u] = rowMask;
   level.UndoColumnMask[u] = columnMask;
   level.UndoCageMask[u] = cageMask;
-  return {none != 0, singles, sumOfSingles};
-}
-
-TESSEL_WIDE_VECTORS int PositionOf(const Lanes& order, int cell) {
-  const auto wanted = static_cast<std::int16_t>(cell);
-  Mask position = 0;
-  for (int i = 0; i < kLaneCount; ++i) {
-    const auto found = static_cast<Mask>(order[i] == wanted ? -1 : 0);
-    position = static_cast<Mask>(position | (found & kCells[i]));
-  }
-  return position;
+  return {none != 0, atMostOne != 0};
 }
 
 TESSEL_WIDE_VECTORS void GiveBack(SearchLevel& level, const HouseLanes& lanes, int placed, Mask bit,

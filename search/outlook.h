@@ -9,9 +9,8 @@ namespace tessel {
 
 // What the unfilled cells of a level have left.
 struct Outlook {
-  bool deadEnd;  // an unfilled cell has no candidate left; the rest says nothing then
-  int singles;   // the number of unfilled cells that have exactly one
-  int single;    // the cell, where there is one single
+  bool deadEnd;  // an unfilled cell has no candidate left
+  bool single;   // an unfilled cell has exactly one; says nothing where there is a dead end
 };
 
 Outlook OutlookOf(const SearchLevel& level);
@@ -26,8 +25,5 @@ Outlook TakeFromPeersLogged(SearchLevel& level, const HouseLanes& lanes, int cel
 
 // Gives the digit of `bit` back to the cells that log entry `u` names.
 void GiveBack(SearchLevel& level, const HouseLanes& lanes, int cell, Mask bit, int u);
-
-// The position at which `order` holds `cell`, which it holds once.
-int PositionOf(const Lanes& order, int cell);
 
 }  // namespace tessel

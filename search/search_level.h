@@ -20,13 +20,13 @@ struct alignas(32) Lanes : std::array<std::int16_t, kLaneCount> {
     return board;
   }
 };
-// What stands in the lanes of Digit and Order beyond the board: filled cells, and no cell.
+// What stands in Digit's lanes beyond the board: they count as filled.
 inline constexpr std::int16_t kBeyondTheBoard = -1;
 
 struct SearchLevel {
-  Lanes Digit{};       // digit placed in the cell, 0 = not placed
-  Lanes Order{};       // positions 0..Pos: cells to be filled; above: filled cells
-  Lanes Candidates{};  // digits still possible; a trial placement keeps the cell's own
+  Lanes Digit{};                  // digit placed in the cell, 0 = not placed
+  PerCell<std::int16_t> Order{};  // positions 0..Pos: cells to be filled; above: filled cells
+  Lanes Candidates{};             // digits still possible; a trial placement keeps the cell's own
   PerCell<std::int16_t> LastChoice{};  // -1 when the digit now tried is the cell's highest, else 0
 
   // The log of trial placements, entries 1..UndoCount; entry 0 is never written.

@@ -1,4 +1,5 @@
 // The step procedures of the search: placing, removing, undoing.
+#include <bit>
 #include <cassert>
 #include <utility>
 
@@ -7,32 +8,21 @@
 namespace tessel {
 
 bool ExactCoverSearch::DLXNakedSingle(int Ptr) {
-  const SearchLevel& level = Levels[Depth];
+  return PlaceSingle(Ptr).has_value();
+}
+
+// The outlook after the placement; none when there was no single.
+std::optional<Outlook> ExactCoverSearch::PlaceSingle(int Ptr) {
+  SearchLevel& level = Levels[Depth];
   int k = 0;
   while (k <= Ptr && state_.BitCount[level.Candidates[level.Order[k]]] != 1) ++k;
-  if (k > Ptr) return false;
-  PlaceSingle(k, Ptr);
-  return true;
-}
-
-// Places a single that the outlook promises: the lone one, or the first of several in the order.
-Outlook ExactCoverSearch::PlaceNextSingle(const Outlook& outlook) {
-  const SearchLevel& level = Levels[Depth];
-  if (outlook.singles == 1) return PlaceSingle(PositionOf(level.Order, outlook.single), Pos());
-  int k = 0;
-  while (state_.BitCount[level.Candidates[level.Order[k]]] != 1) ++k;
-  return PlaceSingle(k, Pos());
-}
-
-// Places the single at position `k` and moves it to position `ptr`.
-Outlook ExactCoverSearch::PlaceSingle(int k, int ptr) {
-  SearchLevel& level = Levels[Depth];
+  if (k > Ptr) return std::nullopt;
   const int cell = level.Order[k];
   const Mask bit = level.Candidates[cell];
   const Outlook outlook = TakeFromPeers(level, lanes_, cell, bit);
-  level.Digit[cell] = static_cast<std::int16_t>(LowestDigitOf(bit));
+  level.Digit[cell] = static_cast<std::int16_t>(std::countr_zero(static_cast<unsigned>(bit)) + 1);
   level.Candidates[cell] = 0;
-  std::swap(level.Order[k], level.Order[ptr]);
+  std::swap(level.Order[k], level.Order[Ptr]);
   return outlook;
 }
 

@@ -89,8 +89,8 @@ bool ExactCoverSearch::StartFromGivens() {
 // False when a single leaves another cell without a candidate.
 bool ExactCoverSearch::PlaceSinglesOfGivens() {
   Outlook outlook = OutlookOf(Levels[0]);
-  while (outlook.singles > 0 && !outlook.deadEnd) {
-    outlook = PlaceNextSingle(outlook);
+  while (outlook.single && !outlook.deadEnd) {
+    outlook = *PlaceSingle(Pos());
     --Pos();
   }
   levelStart_[0] = Pos();

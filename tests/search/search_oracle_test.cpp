@@ -49,7 +49,7 @@ class LimitedDriver final : public SearchDriver {
 
 testing::AssertionResult SameLevel(const SearchLevel& level, const LiteralLevel& literal) {
   if (OnBoard(level.Digit) != literal.Digit) return testing::AssertionFailure() << "Digit";
-  if (OnBoard(level.Order) != literal.Order) return testing::AssertionFailure() << "Order";
+  if (level.Order != literal.Order) return testing::AssertionFailure() << "Order";
   if (OnBoard(level.Candidates) != literal.Candidates)
     return testing::AssertionFailure() << "Candidates";
   if (level.LastChoice != literal.LastChoice) return testing::AssertionFailure() << "LastChoice";
