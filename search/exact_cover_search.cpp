@@ -102,10 +102,8 @@ void ExactCoverSearch::ChooseCell() {
 Outlook ExactCoverSearch::TryFirstDigit() {
   SearchLevel& level = Levels[Depth];
   const int cell = level.Order[Pos()];
-  int digit = 1;
-  while (!Holds(level.Candidates[cell], digit)) ++digit;
   if (state_.BitCount[level.Candidates[cell]] == 1) level.LastChoice[cell] = kYes;
-  return Remove(cell, digit, Pos() - 1);
+  return Remove(cell, LowestDigitOf(level.Candidates[cell]), Pos() - 1);
 }
 
 // Step 8. None when the cell's digits are used up; it is empty again then.
@@ -118,8 +116,8 @@ std::optional<Outlook> ExactCoverSearch::TryNextDigit() {
     level.LastChoice[cell] = kNo;
     return std::nullopt;
   }
-  int digit = oldDigit + 1;
-  while (!Holds(level.Candidates[cell], digit)) ++digit;
+  const auto higher = static_cast<Mask>(level.Candidates[cell] >> oldDigit);
+  const int digit = oldDigit + LowestDigitOf(higher);
   const bool higherLeft = (level.Candidates[cell] >> digit) != 0;
   level.LastChoice[cell] = higherLeft ? kNo : kYes;
   return Remove(cell, digit, Pos() - 1);

@@ -1,5 +1,4 @@
 // The step procedures of the search: placing, removing, undoing.
-#include <bit>
 #include <cassert>
 #include <utility>
 
@@ -20,7 +19,7 @@ std::optional<Outlook> ExactCoverSearch::PlaceSingle(int Ptr) {
   const int cell = level.Order[k];
   const Mask bit = level.Candidates[cell];
   const Outlook outlook = TakeFromPeers(level, lanes_, cell, bit);
-  level.Digit[cell] = static_cast<std::int16_t>(std::countr_zero(static_cast<unsigned>(bit)) + 1);
+  level.Digit[cell] = static_cast<std::int16_t>(LowestDigitOf(bit));
   level.Candidates[cell] = 0;
   std::swap(level.Order[k], level.Order[Ptr]);
   return outlook;
