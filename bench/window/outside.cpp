@@ -1,8 +1,8 @@
 #include "bench/window/outside.h"
 
+#include <QFile>
 #include <QThread>
 #include <algorithm>
-#include <fstream>
 #include <stdexcept>
 
 #include "bench/wall_time.h"
@@ -57,9 +57,9 @@ void OutsideWindow::FindWindow() {
 }
 
 double OutsideWindow::Memory() const {
-  std::ifstream status("/proc/" + std::to_string(process_.processId()) + "/status");
-  const std::string text(std::istreambuf_iterator<char>(status), {});
-  return NumberAfter(text, "VmRSS:") / 1024;
+  QFile status(QString("/proc/%1/status").arg(process_.processId()));
+  if (!status.open(QIODevice::ReadOnly)) throw std::runtime_error("the program has ended");
+  return NumberAfter(status.readAll().toStdString(), "VmRSS:") / 1024;
 }
 
 void OutsideWindow::Click(const char* button) {
