@@ -15,7 +15,7 @@
 namespace tessel::literal {
 namespace {
 
-constexpr int kParts = 8;
+constexpr int kShards = 8;
 constexpr int kBoardsOfPart = 6'000 / kShareOfBoards;
 constexpr int kClicksOfBoard = 3;
 
@@ -117,7 +117,7 @@ TEST_P(ClickComparison, SayAndShowTheSameOnRandomBoards) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Parts, ClickComparison, testing::Range(0, kParts));
+INSTANTIATE_TEST_SUITE_P(Shards, ClickComparison, testing::Range(0, kShards));
 
 }  // namespace
 }  // namespace tessel::literal

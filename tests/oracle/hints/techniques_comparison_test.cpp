@@ -16,7 +16,7 @@
 namespace tessel::literal {
 namespace {
 
-constexpr int kParts = 20;
+constexpr int kShards = 20;
 constexpr int kBoardsOfPart = 10'000 / kShareOfBoards;
 
 struct Technique {
@@ -132,7 +132,7 @@ TEST_P(TechniquesComparison, FindTheSameOnRandomBoards) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Parts, TechniquesComparison, testing::Range(0, kParts));
+INSTANTIATE_TEST_SUITE_P(Shards, TechniquesComparison, testing::Range(0, kShards));
 
 }  // namespace
 }  // namespace tessel::literal
