@@ -100,6 +100,9 @@ void FitHint(QLabel& label, const QFont& font, int width) {
   const QRect room(0, 0, width - 2 * kHintPadding, QWIDGETSIZE_MAX);
   const QRect text = QFontMetrics(font).boundingRect(room, Qt::TextWordWrap, kLongHint);
   label.setFixedHeight(text.height() + 3 * kHintPadding);
+  // A label would ask for a width that depends on its text, and the board beside it would move.
+  label.setMinimumWidth(width);
+  label.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
 }
 
 QFont Enlarged(QFont font) {
