@@ -15,7 +15,11 @@ namespace {
 using SteadyClock = std::chrono::steady_clock;
 
 constexpr long kEventsOfASession = 2'000;
+#ifdef __SANITIZE_ADDRESS__
+constexpr long kMostGrowth = 1024 * 1024;  // freed memory is kept back
+#else
 constexpr long kMostGrowth = 4'096;  // kilobytes, after the first tenth of the time
+#endif
 
 class Soak {
  public:
