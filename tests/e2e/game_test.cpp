@@ -99,17 +99,22 @@ void WholeGame::Play(User& user, Hand& hand, const std::function<void()>& interl
   user_ = &user;
   hand_ = &hand;
   ASSERT_NO_FATAL_FAILURE(MakePuzzle());
-  ToggleMarks();
-  TryWhatDoesNothing();
-  PlaceAndTakeOut();
-  PlaceAWrongDigitAndAsk();
-  interlude();
-  EXPECT_TRUE(SeesGame());
-  GoOnWithoutUpdates();
-  QuitAndComeBack();
-  FillToTheApplause();
-  ShowTheSolution();
-  LeaveTheProgram();
+  const std::function<void()> phases[] = {
+      [&] { ToggleMarks(); },
+      [&] { TryWhatDoesNothing(); },
+      [&] { PlaceAndTakeOut(); },
+      [&] { PlaceAWrongDigitAndAsk(); },
+      interlude,
+      [&] { GoOnWithoutUpdates(); },
+      [&] { QuitAndComeBack(); },
+      [&] { FillToTheApplause(); },
+      [&] { ShowTheSolution(); },
+      [&] { LeaveTheProgram(); },
+  };
+  for (const auto& phase : phases) {
+    phase();
+    ASSERT_FALSE(HasFailure()) << "the game cannot go on";
+  }
 }
 
 void WholeGame::MakePuzzle() {
@@ -176,6 +181,7 @@ void WholeGame::PlaceAWrongDigitAndAsk() {
 }
 
 void WholeGame::GoOnWithoutUpdates() {
+  EXPECT_TRUE(SeesGame());
   const Mark hidden = FindMark(false, false);
   hand_->Press("CheckPencilmarks");
   game_->UpdatePencilmarks(false);

@@ -87,10 +87,14 @@ QImage WindowTwin::RunningButton(tessel::Button button, const char* caption) {
   return picture;
 }
 
+// Put back at once, before the layout hears of it: no text may move anything else in the window.
 QImage WindowTwin::Text(const char* label, const std::string& text) {
   auto& widget = Find<QLabel>(label);
+  const QString before = widget.text();
   widget.setText(QString::fromStdString(text));
-  return Plain(widget.grab());
+  const QImage picture = Plain(widget.grab());
+  widget.setText(before);
+  return picture;
 }
 
 }  // namespace tessel
