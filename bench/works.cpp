@@ -126,7 +126,7 @@ Outcome SearchByProduct(const std::vector<Search>& searches) {
     engine.search.StartEmpty(search.order);
     StoppedSearch driver(engine.view);
     const SearchEnd end = engine.search.Run(driver);
-    if (end == SearchEnd::kSolved) Append(outcome.results, engine.search.Top().Digit.Board());
+    if (end == SearchEnd::kSolved) Append(outcome.results, engine.search.Top().Digit);
   }
   outcome.iterations = engine.search.Iterations();
   outcome.pumps = engine.view.pumps;

@@ -37,8 +37,7 @@ enum class SearchEnd : std::uint8_t {
   kExhausted,  // there are no further solutions
 };
 
-// The procedures named DLX work on the top level, Levels[Depth]. They rely on Digit telling the
-// cells at positions 0..Pos (0) from the filled ones (1..9).
+// The procedures named DLX work on the top level, Levels[Depth].
 class ExactCoverSearch {
  public:
   // The layout is read from `state`, whose BitCount must be filled.
@@ -72,16 +71,18 @@ class ExactCoverSearch {
 
  private:
   void Reset();
+  void StartAt(int pos);
+  void ReadOrder(int ptr);
   bool StartFromGivens();
   bool PlaceSinglesOfGivens();
   void Step(SearchDriver& driver);
   void ChooseCell();
   Outlook TryFirstDigit();
   std::optional<Outlook> TryNextDigit();
-  void PropagateSingles(SearchDriver& driver);
+  void PropagateSingles(SearchDriver& driver, Outlook outlook);
   void OpenLevel();
-  std::optional<Outlook> PlaceSingle(int Ptr);
-  Outlook Remove(int cell, int digit, int removePtr);
+  Outlook PlaceSingle(int position, int ptr);
+  Outlook PlaceTrial(int cell, int digit);
   std::int16_t& Pos() { return levelPos_[Depth]; }
 
   GameState& state_;

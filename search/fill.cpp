@@ -48,7 +48,7 @@ bool FillGenerator::GenerateTessel() {
   const SearchLevel& solution = search_.Top();
   ProgressDrawing(state_, form_, search_)
       .DLXUpdateGrid(-1, solution.Order.front(), UpdateMode::kFinished);
-  state_.WorkGrid = solution.Digit.Board();
+  state_.WorkGrid = solution.Digit;
   return true;
 }
 

@@ -5,31 +5,63 @@
 
 namespace tessel {
 
+// The three masks of an entry of the undo log, 9 bits each, in two 16-bit words.
+struct LogWords {
+  std::int16_t first = 0;   // the row mask below the lower 7 bits of the column mask
+  std::int16_t second = 0;  // the cage mask below the upper 2 bits of the column mask
+
+  static constexpr LogWords Of(int row, int column, int cage) {
+    return {static_cast<std::int16_t>(row | column << kSide),
+            static_cast<std::int16_t>(cage | (column >> kColumnBits) << kSide)};
+  }
+  constexpr Mask RowMask() const { return first & kAllCandidates; }
+  constexpr Mask ColumnMask() const {
+    return static_cast<Mask>(static_cast<std::uint16_t>(first) >> kSide | (second >> kSide)
+                                                                              << kColumnBits);
+  }
+  constexpr Mask CageMask() const { return second & kAllCandidates; }
+
+  static constexpr int kColumnBits = 16 - kSide;
+};
+
+static_assert(LogWords::Of(0x155, 0x1AA, 0x0F3).RowMask() == 0x155);
+static_assert(LogWords::Of(0x155, 0x1AA, 0x0F3).ColumnMask() == 0x1AA);
+static_assert(LogWords::Of(0x155, 0x1AA, 0x0F3).CageMask() == 0x0F3);
+
+struct LogLanes {
+  Lanes first{};
+  Lanes second{};
+};
+
 // Lanes of which only the cell's own is set, with all its bits.
-const std::int16_t* OwnLane(int cell);
+inline const std::int16_t* OwnLane(int cell) {
+  // A window of kLaneCount lanes slides over a single set one.
+  static constexpr auto oneLane = [] {
+    std::array<std::int16_t, 2 * kLaneCount> lanes{};
+    lanes[kLaneCount] = -1;
+    return lanes;
+  }();
+  return oneLane.data() + (kLaneCount - cell);
+}
 
 class HouseLanes {
  public:
-  // The bits by which the undo log names the cells of the cell's row (bit c in column c), column
-  // (bit r in row r) and cage (bit k for its k-th cell); 0 at all other cells.
-  const Lanes& Row(int cell) const { return rows_[RowOf(cell)]; }
-  const Lanes& Column(int cell) const { return columns_[ColumnOf(cell)]; }
-  const Lanes& Cage(int cell) const { return cages_[layout_[cell]]; }
   // All candidates at the other cells that share a house with the cell, none elsewhere.
   const Lanes& Peers(int cell) const { return peers_[cell]; }
+  // The bit by which the undo log names each of these: in the row mask (bit c in column c), else in
+  // the column mask (bit r in row r), else in the cage mask (bit k for the cage's k-th cell).
+  const LogLanes& Log(int cell) const { return log_[cell]; }
 
-  HouseLanes();
   // Follows the layout when it has changed. A cell outside all cages shares none.
   void Follow(const GameState& state);
 
  private:
-  void FindPeers(int cell);
+  LogWords Naming(int cell, int other) const;
 
-  std::array<Lanes, kSide> rows_{};
-  std::array<Lanes, kSide> columns_{};
-  std::array<Lanes, kSide + 1> cages_{};  // index 0, for cells in no cage, stays 0
   PerCell<Lanes> peers_{};
+  PerCell<LogLanes> log_{};
   PerCell<std::int16_t> layout_{};
+  PerCell<int> cageIndex_{};
   bool followed_ = false;
 };
 

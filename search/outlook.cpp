@@ -1,5 +1,7 @@
 #include "search/outlook.h"
 
+#include <algorithm>
+
 // Where the compiler can, the passes are also built for wider vectors and chosen when the program
 // starts on a processor that has them.
 #if defined(__x86_64__) && defined(__GNUC__) && !defined(__clang__) && \
@@ -13,90 +15,91 @@ namespace tessel {
 
 namespace {
 
-// All bits where the mask is empty, none where it is not. The narrow types here and below keep
-// every lane at 16 bits.
-constexpr Mask LaneOfEmpty(Mask mask) {
-  return static_cast<Mask>(mask == 0 ? -1 : 0);
+// All bits where the number is 0, none where it is not. The narrow types here and below keep every
+// lane at 16 bits.
+constexpr std::int16_t LaneOfZero(std::int16_t number) {
+  return static_cast<std::int16_t>(-static_cast<int>(number == 0));
 }
 
 constexpr Mask WithoutLowest(Mask mask) {
   return static_cast<Mask>(mask & static_cast<Mask>(mask - 1));
 }
 
+// More than all ranks, but 0 for the 0 of filled cells.
+constexpr std::int16_t BeyondRanks(std::int16_t rank) {
+  return static_cast<std::int16_t>(rank << 7);
+}
+static_assert(BeyondRanks(1) > kCellCount && kCellCount << 7 <= INT16_MAX);
+
+// What a cell with these candidates contributes to the outlook.
+constexpr std::int16_t Urgency(Mask candidates, std::int16_t rank) {
+  const std::int16_t atMostOne = LaneOfZero(WithoutLowest(candidates));
+  const std::int16_t none = LaneOfZero(candidates);
+  return static_cast<std::int16_t>((atMostOne & rank) | (none & BeyondRanks(rank)));
+}
+
 }  // namespace
 
 TESSEL_WIDE_VECTORS Outlook OutlookOf(const SearchLevel& level) {
-  Mask none = 0;
-  Mask atMostOne = 0;
+  std::int16_t urgency = 0;
   for (int cell = 0; cell < kLaneCount; ++cell) {
-    const Mask unfilled = LaneOfEmpty(level.Digit[cell]);
-    const Mask mask = level.Candidates[cell];
-    none = static_cast<Mask>(none | (unfilled & LaneOfEmpty(mask)));
-    atMostOne = static_cast<Mask>(atMostOne | (unfilled & LaneOfEmpty(WithoutLowest(mask))));
+    urgency = std::max(urgency, Urgency(level.Candidates[cell], level.Rank[cell]));
   }
-  return {none != 0, atMostOne != 0};
+  return Outlook(urgency);
 }
 
-TESSEL_WIDE_VECTORS Outlook TakeFromPeers(SearchLevel& level, const HouseLanes& lanes, int placed,
+TESSEL_WIDE_VECTORS Outlook TakeForSingle(SearchLevel& level, const HouseLanes& lanes, int placed,
                                           Mask bit) {
   const Lanes& peers = lanes.Peers(placed);
-  Mask none = 0;
-  Mask atMostOneCount = 0;
-  for (int cell = 0; cell < kLaneCount; ++cell) {
-    const Mask unfilled = LaneOfEmpty(level.Digit[cell]);
-    const auto taken = static_cast<Mask>(peers[cell] & bit & unfilled);
-    const Mask mask = Without(level.Candidates[cell], taken);
-    level.Candidates[cell] = mask;
-    none = static_cast<Mask>(none | (unfilled & LaneOfEmpty(mask)));
-    const auto atMostOne = static_cast<Mask>(unfilled & LaneOfEmpty(WithoutLowest(mask)));
-    atMostOneCount = static_cast<Mask>(atMostOneCount - atMostOne);
-  }
-  return {none != 0, atMostOneCount > 1};  // the placed cell is one itself
-}
-
-TESSEL_WIDE_VECTORS Outlook TakeFromPeersLogged(SearchLevel& level, const HouseLanes& lanes,
-                                                int placed, Mask bit, int u) {
-  const Lanes& row = lanes.Row(placed);
-  const Lanes& column = lanes.Column(placed);
-  const Lanes& cage = lanes.Cage(placed);
-  const Lanes& peers = lanes.Peers(placed);
   const std::int16_t* own = OwnLane(placed);
-  Mask rowMask = 0;
-  Mask columnMask = 0;
-  Mask cageMask = 0;
-  Mask none = 0;
-  Mask atMostOne = 0;
+  std::int16_t urgency = 0;
   for (int cell = 0; cell < kLaneCount; ++cell) {
-    const auto unfilled = static_cast<Mask>(LaneOfEmpty(level.Digit[cell]) & ~own[cell]);
-    const auto taken = static_cast<Mask>(level.Candidates[cell] & peers[cell] & bit & unfilled);
-    const auto lost = static_cast<Mask>(~LaneOfEmpty(taken));
-    const Mask outsideLines = LaneOfEmpty(static_cast<Mask>(row[cell] | column[cell]));
-    rowMask = static_cast<Mask>(rowMask | (row[cell] & lost));
-    columnMask = static_cast<Mask>(columnMask | (column[cell] & lost));
-    cageMask = static_cast<Mask>(cageMask | (cage[cell] & lost & outsideLines));
-    const Mask mask = Without(level.Candidates[cell], taken);
-    level.Candidates[cell] = mask;
-    none = static_cast<Mask>(none | (unfilled & LaneOfEmpty(mask)));
-    atMostOne = static_cast<Mask>(atMostOne | (unfilled & LaneOfEmpty(WithoutLowest(mask))));
+    const auto rank = static_cast<std::int16_t>(level.Rank[cell] & ~own[cell]);
+    const auto taken = static_cast<Mask>((peers[cell] & bit & ~LaneOfZero(rank)) | own[cell]);
+    const Mask left = Without(level.Candidates[cell], taken);
+    level.Candidates[cell] = left;
+    level.Rank[cell] = rank;
+    urgency = std::max(urgency, Urgency(left, rank));
   }
-  level.UndoRowMask[u] = rowMask;
-  level.UndoColumnMask[u] = columnMask;
-  level.UndoCageMask[u] = cageMask;
-  return {none != 0, atMostOne != 0};
+  return Outlook(urgency);
 }
 
-TESSEL_WIDE_VECTORS void GiveBack(SearchLevel& level, const HouseLanes& lanes, int placed, Mask bit,
-                                  int u) {
-  const Lanes& row = lanes.Row(placed);
-  const Lanes& column = lanes.Column(placed);
-  const Lanes& cage = lanes.Cage(placed);
-  const Mask rowMask = level.UndoRowMask[u];
-  const Mask columnMask = level.UndoColumnMask[u];
-  const Mask cageMask = level.UndoCageMask[u];
+TESSEL_WIDE_VECTORS Outlook TakeForTrial(SearchLevel& level, const HouseLanes& lanes, int placed,
+                                         Mask bit, int u) {
+  const LogLanes& log = lanes.Log(placed);
+  const std::int16_t* own = OwnLane(placed);
+  LogWords words;
+  std::int16_t urgency = 0;
   for (int cell = 0; cell < kLaneCount; ++cell) {
-    const auto lost = static_cast<Mask>((row[cell] & rowMask) | (column[cell] & columnMask) |
-                                        (cage[cell] & cageMask));
-    level.Candidates[cell] = static_cast<Mask>(level.Candidates[cell] | (bit & ~LaneOfEmpty(lost)));
+    const auto rank = static_cast<std::int16_t>(level.Rank[cell] & ~own[cell]);
+    const std::int16_t noPeer = LaneOfZero(static_cast<Mask>(log.first[cell] | log.second[cell]));
+    const auto taken =
+        static_cast<Mask>(level.Candidates[cell] & bit & ~(LaneOfZero(rank) | noPeer));
+    const std::int16_t kept = LaneOfZero(taken);
+    words.first = static_cast<std::int16_t>(words.first | (log.first[cell] & ~kept));
+    words.second = static_cast<std::int16_t>(words.second | (log.second[cell] & ~kept));
+    const Mask left = Without(level.Candidates[cell], taken);
+    level.Candidates[cell] = left;
+    level.Rank[cell] = rank;
+    urgency = std::max(urgency, Urgency(left, rank));
+  }
+  level.UndoRowMask[u] = words.RowMask();
+  level.UndoColumnMask[u] = words.ColumnMask();
+  level.UndoCageMask[u] = words.CageMask();
+  return Outlook(urgency);
+}
+
+TESSEL_WIDE_VECTORS void GiveBack(SearchLevel& level, const HouseLanes& lanes, int placed,
+                                  std::int16_t rank, Mask bit, int u) {
+  const LogLanes& log = lanes.Log(placed);
+  const auto words =
+      LogWords::Of(level.UndoRowMask[u], level.UndoColumnMask[u], level.UndoCageMask[u]);
+  const std::int16_t* own = OwnLane(placed);
+  for (int cell = 0; cell < kLaneCount; ++cell) {
+    level.Rank[cell] = static_cast<std::int16_t>(level.Rank[cell] | (own[cell] & rank));
+    const auto lost =
+        static_cast<Mask>((log.first[cell] & words.first) | (log.second[cell] & words.second));
+    level.Candidates[cell] = static_cast<Mask>(level.Candidates[cell] | (bit & ~LaneOfZero(lost)));
   }
 }
 

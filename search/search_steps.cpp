@@ -1,43 +1,157 @@
-// The step procedures of the search: placing, removing, undoing.
-#include <cassert>
-#include <utility>
+// The loop of the search and its steps: choosing a cell, placing, undoing.
+#include <cstring>
 
 #include "search/exact_cover_search.h"
 
 namespace tessel {
 
-bool ExactCoverSearch::DLXNakedSingle(int Ptr) {
-  return PlaceSingle(Ptr).has_value();
+namespace {
+
+constexpr std::int16_t kYes = -1;
+constexpr std::int16_t kNo = 0;
+
+// Swaps the cells at positions a and b. The cell that comes to b is about to be filled and needs no
+// rank.
+void Exchange(SearchLevel& level, int a, int b) {
+  const std::int16_t cell = level.Order[b];
+  level.Order[b] = level.Order[a];
+  level.Order[a] = cell;
+  level.Rank[cell] = RankAt(a);
 }
 
-// The outlook after the placement; none when there was no single.
-std::optional<Outlook> ExactCoverSearch::PlaceSingle(int Ptr) {
+}  // namespace
+
+SearchEnd ExactCoverSearch::Run(SearchDriver& driver) {
+  while (true) {
+    ++iterations_;
+    // Step 1. Leave an exhausted level, and the singles beneath it, for the older trial level.
+    if (Pos() > levelStart_[Depth]) {
+      if (Depth == 0) return SearchEnd::kExhausted;
+      Depth = static_cast<std::int16_t>(Depth - 2);
+      ++Pos();
+      continue;
+    }
+    // Step 2. Every cell is filled.
+    if (Pos() == -1) {
+      if (!driver.ContinueAfterSolution()) return SearchEnd::kSolved;
+      Pos() = 0;
+      continue;
+    }
+    // Step 3. Let the driver look around.
+    if (!driver.Proceed()) return SearchEnd::kStopped;
+    Step(driver);
+  }
+}
+
+void ExactCoverSearch::Step(SearchDriver& driver) {
+  // Step 4. A cell that holds a digit is visited again.
+  const SearchLevel& level = Levels[Depth];
+  const bool revisit = level.Digit[level.Order[Pos()]] != 0;
+  if (!revisit) ChooseCell();
+  const std::optional<Outlook> outlook = revisit ? TryNextDigit() : TryFirstDigit();
+  if (!outlook) {
+    ++Pos();
+    return;
+  }
+  driver.TrialPlaced(Pos(), level.Order[Pos()]);
+  --Pos();
+  // Step 9. A dead end sends the search back to the cell just placed.
+  if (outlook->DeadEnd()) {
+    ++Pos();
+  } else if (outlook->Single()) {
+    PropagateSingles(driver, *outlook);
+  }
+}
+
+// Step 5. The first cell met with the fewest candidates comes to the current position; every cell
+// that led on the way swaps places with its successor.
+void ExactCoverSearch::ChooseCell() {
   SearchLevel& level = Levels[Depth];
-  int k = 0;
-  while (k <= Ptr && state_.BitCount[level.Candidates[level.Order[k]]] != 1) ++k;
-  if (k > Ptr) return std::nullopt;
-  const int cell = level.Order[k];
+  const int pos = Pos();
+  int fewest = state_.BitCount[level.Candidates[level.Order[pos]]];
+  for (int i = 0; i < pos; ++i) {
+    const int count = state_.BitCount[level.Candidates[level.Order[i]]];
+    if (count >= fewest) continue;
+    fewest = count;
+    Exchange(level, i, pos);
+    if (fewest == 2) return;  // the fewest there are: singles are placed, dead ends are left
+  }
+}
+
+// Steps 6 and 7.
+Outlook ExactCoverSearch::TryFirstDigit() {
+  SearchLevel& level = Levels[Depth];
+  const int cell = level.Order[Pos()];
+  if (state_.BitCount[level.Candidates[cell]] == 1) level.LastChoice[cell] = kYes;
+  return PlaceTrial(cell, LowestDigitOf(level.Candidates[cell]));
+}
+
+// Step 8. None when the cell's digits are used up; it is empty again then.
+std::optional<Outlook> ExactCoverSearch::TryNextDigit() {
+  SearchLevel& level = Levels[Depth];
+  const int cell = level.Order[Pos()];
+  const bool last = level.LastChoice[cell] == kYes;
+  const int tried = level.Digit[cell];
+  // What is left of the cell's candidates, which the undoing does not touch.
+  const auto higher = static_cast<Mask>(level.Candidates[cell] >> tried);
+  DLXUndo();
+  if (last) {
+    level.LastChoice[cell] = kNo;
+    return std::nullopt;
+  }
+  level.LastChoice[cell] = (higher & (higher - 1)) != 0 ? kNo : kYes;
+  return PlaceTrial(cell, tried + LowestDigitOf(higher));
+}
+
+// Step 10. There is a single to be placed. A contradiction drops the singles and goes back to the
+// cell placed last.
+void ExactCoverSearch::PropagateSingles(SearchDriver& driver, Outlook outlook) {
+  OpenLevel();
+  do {
+    outlook = PlaceSingle(outlook.SinglePosition(), Pos());
+    --Pos();
+    driver.SinglePlaced(Pos(), Levels[Depth].Order[Pos() + 1]);
+  } while (outlook.Single());
+  if (outlook.DeadEnd()) {
+    --Depth;
+    ++Pos();
+    return;
+  }
+  OpenLevel();
+  levelStart_[Depth] = Pos();
+}
+
+// The new level carries on the log of the level below it, so that the log is one stack along the
+// current path.
+void ExactCoverSearch::OpenLevel() {
+  ++Depth;
+  const auto size = static_cast<std::size_t>(Depth) + 1;
+  if (Levels.size() < size) {
+    Levels.resize(size);
+    levelPos_.resize(size);
+    levelStart_.resize(size);
+  }
+  std::memmove(&Levels[Depth], &Levels[Depth - 1], sizeof(SearchLevel));
+  levelPos_[Depth] = levelPos_[Depth - 1];
+}
+
+// Fills the cell at `position`, which has one candidate left, and moves it to position `ptr`.
+Outlook ExactCoverSearch::PlaceSingle(int position, int ptr) {
+  SearchLevel& level = Levels[Depth];
+  const int cell = level.Order[position];
   const Mask bit = level.Candidates[cell];
-  const Outlook outlook = TakeFromPeers(level, lanes_, cell, bit);
+  Exchange(level, position, ptr);
   level.Digit[cell] = static_cast<std::int16_t>(LowestDigitOf(bit));
-  level.Candidates[cell] = 0;
-  std::swap(level.Order[k], level.Order[Ptr]);
-  return outlook;
+  return TakeForSingle(level, lanes_, cell, bit);
 }
 
-void ExactCoverSearch::DLXRemoveCandidates(int Cell, int Candidate, int RemovePtr) {
-  Remove(Cell, Candidate, RemovePtr);
-}
-
-Outlook ExactCoverSearch::Remove(int cell, int digit, [[maybe_unused]] int removePtr) {
+Outlook ExactCoverSearch::PlaceTrial(int cell, int digit) {
   SearchLevel& level = Levels[Depth];
-  assert(removePtr < 0 || level.Digit[level.Order[removePtr]] == 0);
   const int u = ++level.UndoCount;
   level.UndoCell[u] = static_cast<std::int16_t>(cell);
   level.UndoDigit[u] = static_cast<std::int16_t>(digit);
-  const Outlook outlook = TakeFromPeersLogged(level, lanes_, cell, BitOf(digit), u);
   level.Digit[cell] = static_cast<std::int16_t>(digit);
-  return outlook;
+  return TakeForTrial(level, lanes_, cell, BitOf(digit), u);
 }
 
 void ExactCoverSearch::DLXUndo() {
@@ -45,7 +159,7 @@ void ExactCoverSearch::DLXUndo() {
   const int u = level.UndoCount;
   const int cell = level.UndoCell[u];
   level.Digit[cell] = 0;
-  GiveBack(level, lanes_, cell, BitOf(level.UndoDigit[u]), u);
+  GiveBack(level, lanes_, cell, RankAt(Pos()), BitOf(level.UndoDigit[u]), u);
   --level.UndoCount;
 }
 

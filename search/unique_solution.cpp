@@ -81,20 +81,19 @@ bool ExactCoverSearch::StartFromGivens() {
   for (int cell = 0; cell < kCellCount; ++cell) {
     level.Candidates[cell] = level.Digit[cell] == 0 ? used.FreeAt(cell) : Mask{0};
   }
-  Pos() = static_cast<std::int16_t>(pos);
-  levelStart_[0] = Pos();
-  return !OutlookOf(level).deadEnd;
+  StartAt(pos);
+  return !OutlookOf(level).DeadEnd();
 }
 
 // False when a single leaves another cell without a candidate.
 bool ExactCoverSearch::PlaceSinglesOfGivens() {
   Outlook outlook = OutlookOf(Levels[0]);
-  while (outlook.single && !outlook.deadEnd) {
-    outlook = *PlaceSingle(Pos());
+  while (outlook.Single()) {
+    outlook = PlaceSingle(outlook.SinglePosition(), Pos());
     --Pos();
   }
   levelStart_[0] = Pos();
-  return !outlook.deadEnd;
+  return !outlook.DeadEnd();
 }
 
 }  // namespace tessel

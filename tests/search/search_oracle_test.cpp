@@ -48,7 +48,7 @@ class LimitedDriver final : public SearchDriver {
 };
 
 testing::AssertionResult SameLevel(const SearchLevel& level, const LiteralLevel& literal) {
-  if (OnBoard(level.Digit) != literal.Digit) return testing::AssertionFailure() << "Digit";
+  if (level.Digit != literal.Digit) return testing::AssertionFailure() << "Digit";
   if (level.Order != literal.Order) return testing::AssertionFailure() << "Order";
   if (OnBoard(level.Candidates) != literal.Candidates)
     return testing::AssertionFailure() << "Candidates";

@@ -59,6 +59,13 @@ TEST_F(SearchSteps, NakedSingleMovesToTheEndOfThePositions) {
   EXPECT_EQ(top().Candidates[70], 0);
 }
 
+TEST_F(SearchSteps, NakedSingleIsPlacedBesideADeadEnd) {
+  top().Candidates[70] = 0;
+  top().Candidates[3] = BitOf(4);
+  EXPECT_TRUE(rig.search.DLXNakedSingle(80));
+  EXPECT_EQ(top().Digit[3], 4);
+}
+
 TEST_F(SearchSteps, NakedSingleTakesItsDigitFromUnfilledPeersWithoutALog) {
   FillAside(1, 5, 80);
   top().Candidates[0] = BitOf(9);
@@ -76,7 +83,7 @@ TEST_F(SearchSteps, NakedSingleIsNotLookedForAboveThePositions) {
   top().Candidates[7] = BitOf(9);
   const SearchLevel before = top();
   EXPECT_FALSE(rig.search.DLXNakedSingle(79));
-  EXPECT_EQ(OnBoard(top().Digit), OnBoard(before.Digit));
+  EXPECT_EQ(top().Digit, before.Digit);
   EXPECT_EQ(top().Order, before.Order);
   EXPECT_EQ(OnBoard(top().Candidates), OnBoard(before.Candidates));
 }
