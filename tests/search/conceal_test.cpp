@@ -200,6 +200,15 @@ TEST_F(RefusedConcealing, After61RefusalsTheRestIsTriedInAscendingOrderEachOnce)
   EXPECT_EQ(literal.calls, 81);
 }
 
+TEST_F(RefusedConcealing, TheAscendingScanBeginsWithTheFirstCell) {
+  Spoil(0);
+  ScriptedCells script(CellsFrom(20, 80));
+  const std::vector<int> hidden = OrderOfHiding(script);
+  EXPECT_EQ(script.drawnBeyond, 0);
+  ASSERT_FALSE(hidden.empty());
+  EXPECT_EQ(hidden.front(), 0);
+}
+
 TEST_F(RefusedConcealing, RefusedCellsAreNotTriedAgain) {
   Spoil(70);
   std::vector<int> cells;

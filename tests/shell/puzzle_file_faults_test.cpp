@@ -150,6 +150,15 @@ TEST_F(PuzzleFileFaults, ALockHeldForEverDoesNotHangTheProgram) {
   AppendWell(4);
 }
 
+TEST_F(PuzzleFileFaults, AHeldLockOnAFileThatCannotBeMeasuredIsGivenUpToo) {
+  const int other = open(Path().c_str(), O_RDWR | O_CLOEXEC);
+  ASSERT_EQ(flock(other, LOCK_EX), 0);
+  system.Fail(kFstat, EIO, 100'000);
+  EXPECT_EQ(Append(3), "Another program keeps the file locked");
+  EXPECT_LE(system.sleptMilliseconds, 5'000);
+  close(other);
+}
+
 TEST_F(PuzzleFileFaults, ALockIsWaitedForAsLongAsOthersSaveUnderIt) {
   const int other = open(Path().c_str(), O_RDWR | O_CLOEXEC);
   ASSERT_EQ(flock(other, LOCK_EX), 0);
