@@ -199,6 +199,13 @@ TEST_F(Subsets, RowsThenColumnsThenCages) {
   EXPECT_EQ(Result(), (HintFields{.kind = 9, .unit2 = 0}));
 }
 
+TEST_F(HiddenSubset, QuadIsNotLookedFor) {
+  state.Candidates.fill(kAllCandidates);
+  Set(InRow(0, {4, 5, 6, 7, 8}), {5, 6, 7, 8, 9});  // 1 to 4 are left to the first four cells
+  EXPECT_FALSE(Hidden(4));
+  EXPECT_EQ(Result(), HintFields{});
+}
+
 TEST_F(Subsets, OtherSizesFindNothing) {
   for (int cell = 0; cell < kCellCount; ++cell) Mark({cell}, {1, 2, 3, 4});
   for (const int size : {-1, 0, 1, 6, 7, 9}) EXPECT_FALSE(Naked(size)) << size;
