@@ -3,6 +3,8 @@
 //
 // Byte 0: what is called. Byte 1: the layout. Byte 2: the hint fields of before. Two bytes for each
 // cell: a mask, how it is corrected, and the digit on the board.
+#include <optional>
+
 #include "core/texts.h"
 #include "fuzz/input.h"
 #include "hints/hint_button.h"
@@ -113,29 +115,36 @@ class Program {
     return call % 2 == 0 ? Subset::Naked : Subset::Hidden;
   };
 
-  bool CallOurs(int call) {
+  // The techniques that take no argument; nothing for the calls of the others.
+  template <typename Normal, typename Special>
+  static std::optional<bool> CallPlain(int call, Normal& normal, Special& special) {
     switch (call) {
       case kNakedSingle:
-        return normal_.NakedSingle();
+        return normal.NakedSingle();
       case kHiddenSingle:
-        return normal_.HiddenSingle();
+        return normal.HiddenSingle();
       case kPointingPair:
-        return normal_.PointingPair();
+        return normal.PointingPair();
       case kBoxLine:
-        return normal_.BoxLine();
+        return normal.BoxLine();
       case kXWing:
-        return normal_.XWing();
+        return normal.XWing();
       case kSwordFish:
-        return normal_.SwordFish();
+        return normal.SwordFish();
       case kSpHiddenSingle:
-        return special_.SpHiddenSingle();
+        return special.SpHiddenSingle();
       case kSpNakedSingle:
-        return special_.SpNakedSingle();
+        return special.SpNakedSingle();
       case kSpPointingPair:
-        return special_.SpPointingPair();
+        return special.SpPointingPair();
       case kSpBoxLine:
-        return special_.SpBoxLine();
+        return special.SpBoxLine();
     }
+    return std::nullopt;
+  }
+
+  bool CallOurs(int call) {
+    if (const auto found = CallPlain(call, normal_, special_)) return *found;
     if (call < kSpSubsets) {
       return normal_.NakedHidden(kSubsetOf(call), CountSubset{(call - kSubsets) / 2});
     }
@@ -143,28 +152,7 @@ class Program {
   }
 
   static bool CallLiteral(int call, LiteralHints& hints) {
-    switch (call) {
-      case kNakedSingle:
-        return hints.NakedSingle();
-      case kHiddenSingle:
-        return hints.HiddenSingle();
-      case kPointingPair:
-        return hints.PointingPair();
-      case kBoxLine:
-        return hints.BoxLine();
-      case kXWing:
-        return hints.XWing();
-      case kSwordFish:
-        return hints.SwordFish();
-      case kSpHiddenSingle:
-        return hints.SpHiddenSingle();
-      case kSpNakedSingle:
-        return hints.SpNakedSingle();
-      case kSpPointingPair:
-        return hints.SpPointingPair();
-      case kSpBoxLine:
-        return hints.SpBoxLine();
-    }
+    if (const auto found = CallPlain(call, hints, hints)) return *found;
     if (call < kSpSubsets) return hints.NakedHidden(call % 2 == 0, (call - kSubsets) / 2);
     return hints.SpNakedHidden((call - kSpSubsets) / 2, call % 2 == 0);
   }

@@ -33,6 +33,7 @@ void ExactCoverSearch::StartEmpty(const PerCell<std::int16_t>& order) {
   StartAt(kLastPosition);
 }
 
+// Level 0 begins with the cells at positions 0..pos unfilled.
 void ExactCoverSearch::StartAt(int pos) {
   ReadOrder(pos);
   levelPos_[0] = static_cast<std::int16_t>(pos);

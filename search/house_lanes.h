@@ -56,12 +56,9 @@ class HouseLanes {
   void Follow(const GameState& state);
 
  private:
-  LogWords Naming(int cell, int other) const;
-
   PerCell<Lanes> peers_{};
   PerCell<LogLanes> log_{};
   PerCell<std::int16_t> layout_{};
-  PerCell<int> cageIndex_{};
   bool followed_ = false;
 };
 

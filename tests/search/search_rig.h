@@ -14,9 +14,8 @@
 namespace tessel {
 
 // The lanes of the board's cells.
-template <typename CellLanes>
-CellDigits OnBoard(const CellLanes& lanes) {
-  CellDigits cells;
+inline MaskBoard OnBoard(const Lanes& lanes) {
+  MaskBoard cells;
   std::copy_n(lanes.begin(), kCellCount, cells.begin());
   return cells;
 }

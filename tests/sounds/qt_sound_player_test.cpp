@@ -8,6 +8,7 @@
 
 #include <QCoreApplication>
 #include <algorithm>
+#include <optional>
 
 #include "core/sounds.h"
 #include "tests/sounds/sound_server.h"
@@ -68,6 +69,25 @@ class QtSoundPlayerTest : public testing::Test {
 
   int argumentCount_ = 0;
   QCoreApplication application_{argumentCount_, nullptr};
+};
+
+// A player that has just been heard to play.
+class HeardPlayerTest : public QtSoundPlayerTest {
+ protected:
+  void SetUp() override {
+    ASSERT_TRUE(server.Answers()) << kNoServer;
+    recording.emplace(server);
+    player.emplace(server.Address());
+    ASSERT_THAT(player->Ask("load " + Sound("Beep1.wav")), Optional(QByteArray("0")));
+    ASSERT_THAT(Heard(*player, *recording, kHalfSecond), SizeIs(kHalfSecond));
+  }
+  void PlayOften() {
+    for (int i = 0; i < 50; ++i) ASSERT_THAT(player->Ask("play 0"), Optional(QByteArray("done")));
+  }
+
+  SoundServer server;
+  std::optional<Recording> recording;
+  std::optional<PlayerProcess> player;
 };
 
 TEST_F(QtSoundPlayerTest, PlaysTheWholeFileAndThenNothing) {
@@ -141,18 +161,12 @@ TEST_F(QtSoundPlayerTest, DoesNotWaitForAServerThatHangs) {
   close(listener);
 }
 
-TEST_F(QtSoundPlayerTest, LivesOnWhenTheServerIsKilledWhileItPlays) {
-  SoundServer server;
-  ASSERT_TRUE(server.Answers()) << kNoServer;
-  Recording recording(server);
-  PlayerProcess player(server.Address());
-  ASSERT_THAT(player.Ask("load " + Sound("Beep1.wav")), Optional(QByteArray("0")));
-  ASSERT_THAT(Heard(player, recording, kHalfSecond), SizeIs(kHalfSecond));
-  ASSERT_THAT(player.Ask("play 0"), Optional(QByteArray("done")));
+TEST_F(HeardPlayerTest, LivesOnWhenTheServerIsKilledWhileItPlays) {
+  ASSERT_THAT(player->Ask("play 0"), Optional(QByteArray("done")));
   server.Kill();
-  for (int i = 0; i < 50; ++i) ASSERT_THAT(player.Ask("play 0"), Optional(QByteArray("done")));
-  EXPECT_THAT(player.End(), Optional(kEndedOrderly));
-  EXPECT_LT(player.Errors().size(), kFewLines);
+  ASSERT_NO_FATAL_FAILURE(PlayOften());
+  EXPECT_THAT(player->End(), Optional(kEndedOrderly));
+  EXPECT_LT(player->Errors().size(), kFewLines);
 }
 
 TEST_F(QtSoundPlayerTest, PlaysAgainWhenTheServerIsBack) {
@@ -173,16 +187,10 @@ TEST_F(QtSoundPlayerTest, PlaysAgainWhenTheServerIsBack) {
   EXPECT_LT(player.Errors().size(), kFewLines);
 }
 
-TEST_F(QtSoundPlayerTest, EndsInOrderWhileTheServerIsFrozen) {
-  SoundServer server;
-  ASSERT_TRUE(server.Answers()) << kNoServer;
-  Recording recording(server);
-  PlayerProcess player(server.Address());
-  ASSERT_THAT(player.Ask("load " + Sound("Beep1.wav")), Optional(QByteArray("0")));
-  ASSERT_THAT(Heard(player, recording, kHalfSecond), SizeIs(kHalfSecond));
+TEST_F(HeardPlayerTest, EndsInOrderWhileTheServerIsFrozen) {
   server.Freeze();
-  for (int i = 0; i < 50; ++i) ASSERT_THAT(player.Ask("play 0"), Optional(QByteArray("done")));
-  EXPECT_THAT(player.End(), Optional(kEndedOrderly));
+  ASSERT_NO_FATAL_FAILURE(PlayOften());
+  EXPECT_THAT(player->End(), Optional(kEndedOrderly));
 }
 
 }  // namespace
