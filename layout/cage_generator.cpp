@@ -1,5 +1,6 @@
 #include "layout/cage_generator.h"
 
+#include <limits>
 #include <utility>
 
 #include "layout/open_field.h"
@@ -9,6 +10,7 @@ namespace tessel {
 namespace {
 
 constexpr int kMostFailures = 50;  // counted failures of one step that abandon the layout
+constexpr int kUnlimited = std::numeric_limits<int>::max();
 constexpr int kCentreCage = 5;
 constexpr int kRotationalCagesToGrow = 4;
 
@@ -61,7 +63,7 @@ void CageGenerator::BuildRegularLayout() {
 
 bool CageGenerator::Attempt() {
   state_.CageOfCell.fill(0);
-  unclaimed_ = kAllCells;
+  unclaimed_ = {kAllCells, {}, {}};
   for (int cell = 0; cell < kCellCount; ++cell) form_.SetCellOpaque(cell, false);
   rotational_ = form_.Checked(CheckBox::Rotational);
   const int cagesToGrow = rotational_ ? kRotationalCagesToGrow : kSide;
@@ -74,7 +76,7 @@ bool CageGenerator::Attempt() {
 }
 
 bool CageGenerator::GrowCage() {
-  StartCage(Cage, unclaimed_.First());
+  StartCage(Cage, unclaimed_.All().First());
   GrowthList[0] = CurrentCell;
   PaintProgress(CurrentCell);
   for (int k = 1; k < kSide; ++k) {
@@ -89,14 +91,12 @@ bool CageGenerator::GrowCage() {
 bool CageGenerator::ClaimNextCell(int k) {
   int failCount = 0;
   while (failCount < kMostFailures) {
-    const int next = StepInto();
-    if (state_.CageOfCell[next] != 0) {
-      if (state_.CageOfCell[next] == Cage) CurrentCell = next;
-      continue;
-    }
+    const int next = *WalkToUnclaimed(kUnlimited);
     if (!(rotational_ && next == kCentreCell)) {
       Claim(next, Cage);
-      if (MayStand(next, kSide - 1 - k)) {
+      const Regions left = unclaimed_.Without(next);
+      if (MayStand(next, kSide - 1 - k, left)) {
+        unclaimed_ = left;
         CurrentCell = next;
         return true;
       }
@@ -107,8 +107,8 @@ bool CageGenerator::ClaimNextCell(int k) {
   return false;
 }
 
-bool CageGenerator::MayStand(int cell, int cellsToCover) const {
-  if (!OpenField(unclaimed_, cellsToCover, rotational_ ? 2 * Cage - 1 : Cage, cell)) return false;
+bool CageGenerator::MayStand(int cell, int cellsToCover, const Regions& left) const {
+  if (!OpenField(left, cellsToCover, rotational_ ? 2 * Cage - 1 : Cage, cell)) return false;
   if (!rotational_ || Cage != kRotationalCagesToGrow) return true;
   if (kAboveAndBelowCentre.Contains(cell)) return (grown_ & kLeftAndRightOfCentre).Empty();
   if (kLeftAndRightOfCentre.Contains(cell)) return (grown_ & kAboveAndBelowCentre).Empty();
@@ -116,6 +116,7 @@ bool CageGenerator::MayStand(int cell, int cellsToCover) const {
 }
 
 bool CageGenerator::MirrorCage() {
+  CellSet mirrored;
   bool conflict = false;
   for (const int cell : GrowthList) {
     const int mirror = HalfTurnOf(cell);
@@ -124,9 +125,12 @@ bool CageGenerator::MirrorCage() {
       continue;
     }
     Claim(mirror, kSide + 1 - Cage);
+    mirrored = mirrored | CellSet::Of(mirror);
     PaintProgress(mirror);
   }
-  return !conflict;
+  if (conflict) return false;
+  unclaimed_ = RegionsOf(unclaimed_.All() - mirrored);
+  return true;
 }
 
 bool CageGenerator::GrowCentreCage() {
@@ -140,54 +144,63 @@ bool CageGenerator::GrowCentreCage() {
 // The centre cage takes what is left: no look-ahead, no painting, and other cages count as
 // failures.
 bool CageGenerator::ClaimNextCentreCell() {
-  int failCount = 0;
-  while (failCount < kMostFailures) {
-    const int next = StepInto();
-    const int cage = state_.CageOfCell[next];
-    if (cage != 0 && cage != Cage) {
-      ++failCount;
-      continue;
+  const std::optional<int> next = WalkToUnclaimed(kMostFailures);
+  if (!next) return false;
+  CurrentCell = *next;
+  Claim(*next, Cage);
+  return true;
+}
+
+// Steps within the cage until one leads to an unclaimed cell; none when so many steps have led to
+// other cages. What a step finds is hard to foresee: moving and counting are no branches.
+std::optional<int> CageGenerator::WalkToUnclaimed(int mostOthers) {
+  int cell = CurrentCell;
+  for (int others = 0; others < mostOthers;) {
+    const int next = StepFrom(cell);
+    if (state_.CageOfCell[next] == 0) {
+      CurrentCell = cell;
+      return next;
     }
-    CurrentCell = next;
-    if (cage == Cage) continue;
-    Claim(next, Cage);
-    return true;
+    cell ^= (cell ^ next) & own_[next];
+    others += 1 + own_[next];
   }
-  return false;
+  return std::nullopt;
 }
 
 // The cell that one step of the walk leads to, in a random direction. The direction of the step
-// after it is drawn already: what this step finds is hard to foresee, and the processor would wait
-// for the draw each time it guessed wrong.
-int CageGenerator::StepInto() {
+// after it is drawn meanwhile.
+int CageGenerator::StepFrom(int cell) {
   view_.PumpEvents();
   const int direction = std::exchange(nextDirection_, DrawDirection());
-  return kNeighbours[CurrentCell][direction];
+  return kNeighbours[cell][direction];
 }
 
 // A cage that touches no unclaimed cell could never claim one nor count a failure: the walk would
 // not end. Happens in rotational layouts, in pockets that cages and their mirrors have closed off.
 bool CageGenerator::IsEnclosed() const {
-  return (NeighboursOf(grown_) & unclaimed_).Empty();
+  return (NeighboursOf(grown_) & unclaimed_.All()).Empty();
 }
 
 void CageGenerator::StartCage(int cage, int cell) {
   Cage = cage;
   grown_ = {};
+  own_ = {};
   CurrentCell = cell;
   Claim(cell, cage);
+  unclaimed_ = unclaimed_.Without(cell);
 }
 
 void CageGenerator::Claim(int cell, int cage) {
   state_.CageOfCell[cell] = static_cast<std::int16_t>(cage);
-  unclaimed_ = unclaimed_ - CellSet::Of(cell);
-  if (cage == Cage) grown_ = grown_ | CellSet::Of(cell);
+  if (cage != Cage) return;
+  grown_ = grown_ | CellSet::Of(cell);
+  own_[cell] = -1;
 }
 
 void CageGenerator::GiveBack(int cell) {
   state_.CageOfCell[cell] = 0;
-  unclaimed_ = unclaimed_ | CellSet::Of(cell);
   grown_ = grown_ - CellSet::Of(cell);
+  own_[cell] = 0;
 }
 
 void CageGenerator::PaintProgress(int cell) {

@@ -3,11 +3,13 @@
 
 #include <array>
 #include <functional>
+#include <optional>
 
 #include "core/cell_set.h"
 #include "core/form.h"
 #include "core/game_state.h"
 #include "core/random_source.h"
+#include "layout/regions.h"
 
 namespace tessel {
 
@@ -30,12 +32,13 @@ class CageGenerator {
   bool Attempt();
   bool GrowCage();
   bool ClaimNextCell(int k);
-  bool MayStand(int cell, int cellsToCover) const;
+  bool MayStand(int cell, int cellsToCover, const Regions& left) const;
   bool MirrorCage();
   bool GrowCentreCage();
   bool ClaimNextCentreCell();
   bool IsEnclosed() const;
-  int StepInto();
+  std::optional<int> WalkToUnclaimed(int mostOthers);
+  int StepFrom(int cell);
   int DrawDirection() { return DrawIndex(random_, 4); }
   void StartCage(int cage, int cell);
   void Claim(int cell, int cage);
@@ -59,7 +62,8 @@ class CageGenerator {
   int CurrentCell = 0;                  // the walker, always on a cell of Cage
   std::array<int, kSide> GrowthList{};  // the cells of Cage in the order of their claiming
   CellSet grown_;                       // the cells of Cage
-  CellSet unclaimed_;                   // the cells whose CageOfCell is 0
+  PerCell<std::int8_t> own_{};          // -1 for the cells of Cage, 0 for the others
+  Regions unclaimed_;                   // of the cells in no cage, but for the centre cage's growth
 };
 
 }  // namespace tessel

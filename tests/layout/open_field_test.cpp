@@ -4,6 +4,7 @@
 
 #include <string_view>
 
+#include "core/game_state.h"
 #include "core/random_source.h"
 #include "tests/oracle/search/literal_layout.h"
 #include "tests/oracle/search/samples.h"
@@ -19,6 +20,14 @@ constexpr int kPartialLayouts = 2'000;
 constexpr int kPartialLayouts = 30'000;
 #endif
 
+CellSet UnclaimedCells(const GameState& state) {
+  CellSet cells;
+  for (int cell = 0; cell < kCellCount; ++cell) {
+    if (state.CageOfCell[cell] == 0) cells = cells | CellSet::Of(cell);
+  }
+  return cells;
+}
+
 struct OpenFieldTest : testing::Test {
   // Whether cage 1, which stands where `cages` says and needs `cellsToCover` more cells, leaves the
   // field open.
@@ -28,7 +37,7 @@ struct OpenFieldTest : testing::Test {
   }
 
   bool IsOpen(int cellsToCover, int currentCage, int lastAddedCell) const {
-    return OpenField(UnclaimedCells(state), cellsToCover, currentCage, lastAddedCell);
+    return OpenField(RegionsOf(UnclaimedCells(state)), cellsToCover, currentCage, lastAddedCell);
   }
 
   GameState state;

@@ -1,0 +1,20 @@
+// The connected regions of a set of cells, which losing a cell seldom changes.
+#pragma once
+
+#include "core/cell_set.h"
+
+namespace tessel {
+
+struct Regions {
+  CellSet first;   // one region; empty when there is no cell
+  CellSet second;  // another; empty when all cells hang together
+  CellSet others;  // the cells of all others
+
+  CellSet All() const { return first | second | others; }
+  // The regions without a cell of theirs.
+  Regions Without(int cell) const;
+};
+
+Regions RegionsOf(CellSet cells);
+
+}  // namespace tessel
