@@ -43,6 +43,17 @@ struct CellSet {
 
 inline constexpr CellSet kAllCells{(std::uint64_t{1} << 45) - 1, (std::uint64_t{1} << 36) - 1};
 
+// Calls `visit` with each cell, in increasing order.
+template <typename Visit>
+constexpr void ForEach(CellSet cells, const Visit& visit) {
+  for (std::uint64_t left = cells.upper; left != 0; left &= left - 1) {
+    visit(std::countr_zero(left));
+  }
+  for (std::uint64_t left = cells.lower; left != 0; left &= left - 1) {
+    visit(CellSet::kUpperCells + std::countr_zero(left));
+  }
+}
+
 // The cells to the left and right of the cells of `cells`, and those themselves.
 constexpr CellSet WithBeside(CellSet cells) {
   constexpr std::uint64_t firstColumn = 0x1008040201;  // of five rows

@@ -9,6 +9,9 @@ constexpr int kLastPosition = kCellCount - 1;
 }  // namespace
 
 void SearchDriver::TrialPlaced(int /*pos*/, int /*cell*/) {}
+bool SearchDriver::FollowsSingles() const {
+  return false;
+}
 void SearchDriver::SinglePlaced(int /*pos*/, int /*cell*/) {}
 
 ExactCoverSearch::ExactCoverSearch(GameState& state, View& view) : state_(state), view_(view) {
@@ -42,11 +45,12 @@ void ExactCoverSearch::StartAt(int pos) {
 
 bool ExactCoverSearch::DLXNakedSingle(int Ptr) {
   ReadOrder(Ptr);
-  const SearchLevel& level = Levels[Depth];
+  SearchLevel& level = Levels[Depth];
   int k = 0;
   while (k <= Ptr && state_.BitCount[level.Candidates[level.Order[k]]] != 1) ++k;
   if (k > Ptr) return false;
-  PlaceSingle(k, Ptr);
+  PlaceSingles(level, lanes_, Outlook::OfSingle(k, level.Order[k]), Ptr, 1, run_);
+  WriteSingles(run_, Ptr, level);
   return true;
 }
 
@@ -59,7 +63,7 @@ void ExactCoverSearch::DLXRemoveCandidates(int Cell, int Candidate, int RemovePt
 void ExactCoverSearch::ReadOrder(int ptr) {
   SearchLevel& level = Levels[Depth];
   level.Rank.fill(0);
-  for (int i = 0; i <= ptr; ++i) level.Rank[level.Order[i]] = RankAt(i);
+  for (int i = 0; i <= ptr; ++i) level.Rank[level.Order[i]] = RankAt(i, level.Order[i]);
 }
 
 }  // namespace tessel

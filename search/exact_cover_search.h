@@ -11,8 +11,8 @@
 
 #include "core/game_state.h"
 #include "core/view.h"
-#include "search/outlook.h"
 #include "search/search_level.h"
+#include "search/singles_run.h"
 
 namespace tessel {
 
@@ -27,6 +27,9 @@ class SearchDriver {
   virtual bool ContinueAfterSolution() = 0;
   // `pos`: the position of the placed cell.
   virtual void TrialPlaced(int pos, int cell);
+  // Asked before singles are placed: whether each is to be reported. Nobody else sees the singles
+  // of a dead end, whose level is not even opened.
+  virtual bool FollowsSingles() const;
   // `pos`: the position below the placed cell.
   virtual void SinglePlaced(int pos, int cell);
 };
@@ -80,8 +83,9 @@ class ExactCoverSearch {
   Outlook TryFirstDigit();
   std::optional<Outlook> TryNextDigit();
   void PropagateSingles(SearchDriver& driver, Outlook outlook);
+  Outlook FollowSingles(SearchDriver& driver, Outlook outlook);
+  Outlook PlaceAllSingles(Outlook outlook);
   void OpenLevel();
-  Outlook PlaceSingle(int position, int ptr);
   Outlook PlaceTrial(int cell, int digit);
   std::int16_t& Pos() { return levelPos_[Depth]; }
 
@@ -94,6 +98,7 @@ class ExactCoverSearch {
   std::int64_t iterations_ = 0;
 
   HouseLanes lanes_;
+  SinglesRun run_;
 };
 
 }  // namespace tessel

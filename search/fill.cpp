@@ -21,6 +21,7 @@ class DrawnSearch final : public SearchDriver {
     return !state_.StopRequested;
   }
   bool ContinueAfterSolution() override { return false; }
+  bool FollowsSingles() const override { return form_.Checked(CheckBox::CheckVisualize); }
   void TrialPlaced(int pos, int cell) override { Draw(pos, cell, UpdateMode::kTrial); }
   void SinglePlaced(int pos, int cell) override { Draw(pos, cell, UpdateMode::kSingle); }
 

@@ -28,11 +28,14 @@ void HouseLanes::Follow(const GameState& state) {
     return shareCage ? LogWords::Of(0, 0, 1 << placeInCage[other]) : LogWords{};
   };
   for (int cell = 0; cell < kCellCount; ++cell) {
+    houses_[cell] = CellSet::Of(cell);
     for (int other = 0; other < kCellCount; ++other) {
       const LogWords words = naming(cell, other);
       log_[cell].first[other] = words.first;
       log_[cell].second[other] = words.second;
-      peers_[cell][other] = (words.first | words.second) != 0 ? kAllCandidates : Mask{0};
+      const bool arePeers = (words.first | words.second) != 0;
+      peers_[cell][other] = arePeers ? kAllCandidates : Mask{0};
+      if (arePeers) houses_[cell] = houses_[cell] | CellSet::Of(other);
     }
   }
 }

@@ -1,6 +1,7 @@
 // The houses of each cell as rows of 16-bit lanes, one for each cell of the board.
 #pragma once
 
+#include "core/cell_set.h"
 #include "search/search_level.h"
 
 namespace tessel {
@@ -48,6 +49,8 @@ class HouseLanes {
  public:
   // All candidates at the other cells that share a house with the cell, none elsewhere.
   const Lanes& Peers(int cell) const { return peers_[cell]; }
+  // For each cell, those that share a house with it, and the cell.
+  const PerCell<CellSet>& Houses() const { return houses_; }
   // The bit by which the undo log names each of these: in the row mask (bit c in column c), else in
   // the column mask (bit r in row r), else in the cage mask (bit k for the cage's k-th cell).
   const LogLanes& Log(int cell) const { return log_[cell]; }
@@ -57,6 +60,7 @@ class HouseLanes {
 
  private:
   PerCell<Lanes> peers_{};
+  PerCell<CellSet> houses_{};
   PerCell<LogLanes> log_{};
   PerCell<std::int16_t> layout_{};
   bool followed_ = false;

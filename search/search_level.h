@@ -28,18 +28,21 @@ struct SearchLevel {
   PerCell<std::int16_t> UndoCageMask{};    // bit k: the cage's k-th cell lost the digit
   std::int16_t UndoCount = 0;
 
-  // What the passes over the board read instead of Order and Pos: RankAt its position for each
-  // unfilled cell, 0 for the other cells and beyond the board.
+  // What the passes over the board read instead of Order and Pos: each unfilled cell's RankAt, 0
+  // for the other cells and beyond the board.
   Lanes Rank{};
 };
 static_assert(std::is_trivially_copyable_v<SearchLevel>);
 
-// 81..1 for the positions 0..80 in Order, so that the first position has the highest rank.
-constexpr std::int16_t RankAt(int position) {
-  return static_cast<std::int16_t>(kCellCount - position);
-}
-constexpr int PositionOf(std::int16_t rank) {
-  return kCellCount - rank;
+// The rank of an unfilled cell: the nearer to the first position, the higher. It names the position
+// and the cell, and has a bit that marks the cell as unfilled.
+inline constexpr std::int16_t kUnfilledMark = 1 << 14;
+inline constexpr int kRankShift = 7;
+inline constexpr int kCellBits = (1 << kRankShift) - 1;
+static_assert(kCellBits >= kCellCount && kCellCount << kRankShift < kUnfilledMark);
+
+constexpr std::int16_t RankAt(int position, int cell) {
+  return static_cast<std::int16_t>(kUnfilledMark | (kCellCount - position) << kRankShift | cell);
 }
 
 }  // namespace tessel

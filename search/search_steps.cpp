@@ -16,7 +16,7 @@ void Exchange(SearchLevel& level, int a, int b) {
   const std::int16_t cell = level.Order[b];
   level.Order[b] = level.Order[a];
   level.Order[a] = cell;
-  level.Rank[cell] = RankAt(a);
+  level.Rank[cell] = RankAt(a, cell);
 }
 
 }  // namespace
@@ -69,12 +69,12 @@ void ExactCoverSearch::ChooseCell() {
   SearchLevel& level = Levels[Depth];
   const int pos = Pos();
   int fewest = state_.BitCount[level.Candidates[level.Order[pos]]];
-  for (int i = 0; i < pos; ++i) {
+  // Two are the fewest there are: singles are placed, dead ends are left.
+  for (int i = 0; i < pos && fewest > 2; ++i) {
     const int count = state_.BitCount[level.Candidates[level.Order[i]]];
     if (count >= fewest) continue;
     fewest = count;
     Exchange(level, i, pos);
-    if (fewest == 2) return;  // the fewest there are: singles are placed, dead ends are left
   }
 }
 
@@ -106,19 +106,36 @@ std::optional<Outlook> ExactCoverSearch::TryNextDigit() {
 // Step 10. There is a single to be placed. A contradiction drops the singles and goes back to the
 // cell placed last.
 void ExactCoverSearch::PropagateSingles(SearchDriver& driver, Outlook outlook) {
-  OpenLevel();
-  do {
-    outlook = PlaceSingle(outlook.SinglePosition(), Pos());
-    --Pos();
-    driver.SinglePlaced(Pos(), Levels[Depth].Order[Pos() + 1]);
-  } while (outlook.Single());
+  const std::int16_t depth = Depth;
+  outlook = driver.FollowsSingles() ? FollowSingles(driver, outlook) : PlaceAllSingles(outlook);
   if (outlook.DeadEnd()) {
-    --Depth;
+    Depth = depth;
     ++Pos();
     return;
   }
   OpenLevel();
   levelStart_[Depth] = Pos();
+}
+
+Outlook ExactCoverSearch::FollowSingles(SearchDriver& driver, Outlook outlook) {
+  OpenLevel();
+  while (outlook.Single()) {
+    outlook = PlaceSingles(Top(), lanes_, outlook, Pos(), 1, run_);
+    WriteSingles(run_, Pos(), Levels[Depth]);
+    --Pos();
+    driver.SinglePlaced(Pos(), Top().Order[Pos() + 1]);
+  }
+  return outlook;
+}
+
+// Opens no level for singles that come to a dead end.
+Outlook ExactCoverSearch::PlaceAllSingles(Outlook outlook) {
+  outlook = PlaceSingles(Top(), lanes_, outlook, Pos(), kCellCount, run_);
+  if (outlook.DeadEnd()) return outlook;
+  OpenLevel();
+  WriteSingles(run_, Pos(), Levels[Depth]);
+  Pos() = static_cast<std::int16_t>(Pos() - run_.count);
+  return outlook;
 }
 
 // The new level carries on the log of the level below it, so that the log is one stack along the
@@ -135,16 +152,6 @@ void ExactCoverSearch::OpenLevel() {
   levelPos_[Depth] = levelPos_[Depth - 1];
 }
 
-// Fills the cell at `position`, which has one candidate left, and moves it to position `ptr`.
-Outlook ExactCoverSearch::PlaceSingle(int position, int ptr) {
-  SearchLevel& level = Levels[Depth];
-  const int cell = level.Order[position];
-  const Mask bit = level.Candidates[cell];
-  Exchange(level, position, ptr);
-  level.Digit[cell] = static_cast<std::int16_t>(LowestDigitOf(bit));
-  return TakeForSingle(level, lanes_, cell, bit);
-}
-
 Outlook ExactCoverSearch::PlaceTrial(int cell, int digit) {
   SearchLevel& level = Levels[Depth];
   const int u = ++level.UndoCount;
@@ -159,7 +166,7 @@ void ExactCoverSearch::DLXUndo() {
   const int u = level.UndoCount;
   const int cell = level.UndoCell[u];
   level.Digit[cell] = 0;
-  GiveBack(level, lanes_, cell, RankAt(Pos()), BitOf(level.UndoDigit[u]), u);
+  GiveBack(level, lanes_, cell, RankAt(Pos(), cell), BitOf(level.UndoDigit[u]), u);
   --level.UndoCount;
 }
 

@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "search/exact_cover_search.h"
+#include "search/naked_singles.h"
 
 namespace tessel {
 
@@ -54,6 +55,15 @@ class UsedDigits {
 }  // namespace
 
 bool ExactCoverSearch::UniqueSolution() {
+  lanes_.Follow(state_);
+  switch (FollowNakedSingles(state_.WorkGrid, lanes_.Houses())) {
+    case SinglesEnd::kSolved:
+      return true;
+    case SinglesEnd::kContradiction:
+      return false;
+    case SinglesEnd::kOpen:
+      break;
+  }
   if (!StartFromGivens() || !PlaceSinglesOfGivens()) return false;
   if (Pos() == -1) return true;
   SolutionCount driver(view_);
@@ -88,9 +98,10 @@ bool ExactCoverSearch::StartFromGivens() {
 // False when a single leaves another cell without a candidate.
 bool ExactCoverSearch::PlaceSinglesOfGivens() {
   Outlook outlook = OutlookOf(Levels[0]);
-  while (outlook.Single()) {
-    outlook = PlaceSingle(outlook.SinglePosition(), Pos());
-    --Pos();
+  if (outlook.Single()) {
+    outlook = PlaceSingles(Levels[0], lanes_, outlook, Pos(), kCellCount, run_);
+    WriteSingles(run_, Pos(), Levels[0]);
+    Pos() = static_cast<std::int16_t>(Pos() - run_.count);
   }
   levelStart_[0] = Pos();
   return !outlook.DeadEnd();

@@ -1,0 +1,28 @@
+// Naked singles placed one after another, aside: a level is opened for them only when they come to
+// no dead end.
+#pragma once
+
+#include "search/outlook.h"
+
+namespace tessel {
+
+// What the singles change, as in a level, but that the candidates of the cells they fill are
+// negative.
+struct SinglesRun {
+  PerCell<std::int16_t> Order{};
+  Lanes Candidates{};
+  Lanes Rank{};
+  PerCell<Mask> bits{};  // of the digits placed, in turn
+  int count = 0;         // of the singles
+};
+
+// Places up to `most` singles of `level`, of which `outlook` names the first, and takes each digit
+// from the unfilled cells that share a house with it. The cells move to the positions from `ptr`
+// down, which is the last of the unfilled ones. The outlook after the last single.
+Outlook PlaceSingles(const SearchLevel& level, const HouseLanes& lanes, Outlook outlook, int ptr,
+                     int most, SinglesRun& run);
+
+// Writes the run into `level`, which must equal the one it was read from.
+void WriteSingles(const SinglesRun& run, int ptr, SearchLevel& level);
+
+}  // namespace tessel
