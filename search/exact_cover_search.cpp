@@ -9,9 +9,6 @@ constexpr int kLastPosition = kCellCount - 1;
 }  // namespace
 
 void SearchDriver::TrialPlaced(int /*pos*/, int /*cell*/) {}
-bool SearchDriver::FollowsSingles() const {
-  return false;
-}
 void SearchDriver::SinglePlaced(int /*pos*/, int /*cell*/) {}
 
 ExactCoverSearch::ExactCoverSearch(GameState& state, View& view) : state_(state), view_(view) {

@@ -25,13 +25,20 @@ class SearchDriver {
   virtual bool Proceed() = 0;
   // A full solution stands in the top level; true looks for the next one.
   virtual bool ContinueAfterSolution() = 0;
+
+  // Whether the driver is told of placements. A level is opened for singles that come to a dead end
+  // only when it is; otherwise nobody could tell.
+  bool FollowsPlacements() const { return followsPlacements_; }
   // `pos`: the position of the placed cell.
   virtual void TrialPlaced(int pos, int cell);
-  // Asked before singles are placed: whether each is to be reported. Nobody else sees the singles
-  // of a dead end, whose level is not even opened.
-  virtual bool FollowsSingles() const;
   // `pos`: the position below the placed cell.
   virtual void SinglePlaced(int pos, int cell);
+
+ protected:
+  void FollowPlacements(bool follow) { followsPlacements_ = follow; }
+
+ private:
+  bool followsPlacements_ = false;
 };
 
 enum class SearchEnd : std::uint8_t {
@@ -76,8 +83,7 @@ class ExactCoverSearch {
   void Reset();
   void StartAt(int pos);
   void ReadOrder(int ptr);
-  bool StartFromGivens();
-  bool PlaceSinglesOfGivens();
+  void StartFromGivens();
   void Step(SearchDriver& driver);
   void ChooseCell();
   Outlook TryFirstDigit();
@@ -85,6 +91,7 @@ class ExactCoverSearch {
   void PropagateSingles(SearchDriver& driver, Outlook outlook);
   Outlook FollowSingles(SearchDriver& driver, Outlook outlook);
   Outlook PlaceAllSingles(Outlook outlook);
+  void TakeSingles();
   void OpenLevel();
   Outlook PlaceTrial(int cell, int digit);
   std::int16_t& Pos() { return levelPos_[Depth]; }

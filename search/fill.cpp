@@ -18,18 +18,18 @@ class DrawnSearch final : public SearchDriver {
 
   bool Proceed() override {
     view_.PumpEvents();
+    FollowPlacements(form_.Checked(CheckBox::CheckVisualize));
     return !state_.StopRequested;
   }
   bool ContinueAfterSolution() override { return false; }
-  bool FollowsSingles() const override { return form_.Checked(CheckBox::CheckVisualize); }
-  void TrialPlaced(int pos, int cell) override { Draw(pos, cell, UpdateMode::kTrial); }
-  void SinglePlaced(int pos, int cell) override { Draw(pos, cell, UpdateMode::kSingle); }
-
- private:
-  void Draw(int pos, int cell, UpdateMode mode) {
-    if (form_.Checked(CheckBox::CheckVisualize)) drawing_.DLXUpdateGrid(pos, cell, mode);
+  void TrialPlaced(int pos, int cell) override {
+    drawing_.DLXUpdateGrid(pos, cell, UpdateMode::kTrial);
+  }
+  void SinglePlaced(int pos, int cell) override {
+    drawing_.DLXUpdateGrid(pos, cell, UpdateMode::kSingle);
   }
 
+ private:
   GameState& state_;
   Form& form_;
   View& view_;

@@ -34,15 +34,16 @@ struct LogLanes {
   Lanes second{};
 };
 
-// Lanes of which only the cell's own is set, with all its bits.
-inline const std::int16_t* OwnLane(int cell) {
+// Lanes of which only the cell's own is set, to `kNumber`.
+template <std::int16_t kNumber>
+const std::int16_t* OneLane(int cell) {
   // A window of kLaneCount lanes slides over a single set one.
-  static constexpr auto oneLane = [] {
-    std::array<std::int16_t, 2 * kLaneCount> lanes{};
-    lanes[kLaneCount] = -1;
-    return lanes;
+  static constexpr auto lanes = [] {
+    std::array<std::int16_t, 2 * kLaneCount> all{};
+    all[kLaneCount] = kNumber;
+    return all;
   }();
-  return oneLane.data() + (kLaneCount - cell);
+  return lanes.data() + (kLaneCount - cell);
 }
 
 class HouseLanes {

@@ -13,7 +13,7 @@ namespace {
 inline void SetLane(Lanes& lanes, int cell, std::int16_t value) {
   constexpr int width = 16;
   std::int16_t* const lane = lanes.data() + cell / width * width;
-  const std::int16_t* const own = OwnLane(cell % width);
+  const std::int16_t* const own = OneLane<-1>(cell % width);
 #pragma GCC unroll 1
   for (int i = 0; i < width; ++i) {
     lane[i] = static_cast<std::int16_t>((lane[i] & ~own[i]) | (own[i] & value));

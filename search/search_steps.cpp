@@ -53,7 +53,7 @@ void ExactCoverSearch::Step(SearchDriver& driver) {
     ++Pos();
     return;
   }
-  driver.TrialPlaced(Pos(), level.Order[Pos()]);
+  if (driver.FollowsPlacements()) driver.TrialPlaced(Pos(), level.Order[Pos()]);
   --Pos();
   // Step 9. A dead end sends the search back to the cell just placed.
   if (outlook->DeadEnd()) {
@@ -107,7 +107,7 @@ std::optional<Outlook> ExactCoverSearch::TryNextDigit() {
 // cell placed last.
 void ExactCoverSearch::PropagateSingles(SearchDriver& driver, Outlook outlook) {
   const std::int16_t depth = Depth;
-  outlook = driver.FollowsSingles() ? FollowSingles(driver, outlook) : PlaceAllSingles(outlook);
+  outlook = driver.FollowsPlacements() ? FollowSingles(driver, outlook) : PlaceAllSingles(outlook);
   if (outlook.DeadEnd()) {
     Depth = depth;
     ++Pos();
@@ -121,8 +121,7 @@ Outlook ExactCoverSearch::FollowSingles(SearchDriver& driver, Outlook outlook) {
   OpenLevel();
   while (outlook.Single()) {
     outlook = PlaceSingles(Top(), lanes_, outlook, Pos(), 1, run_);
-    WriteSingles(run_, Pos(), Levels[Depth]);
-    --Pos();
+    TakeSingles();
     driver.SinglePlaced(Pos(), Top().Order[Pos() + 1]);
   }
   return outlook;
@@ -133,9 +132,14 @@ Outlook ExactCoverSearch::PlaceAllSingles(Outlook outlook) {
   outlook = PlaceSingles(Top(), lanes_, outlook, Pos(), kCellCount, run_);
   if (outlook.DeadEnd()) return outlook;
   OpenLevel();
+  TakeSingles();
+  return outlook;
+}
+
+// The singles of the run take their places in the top level.
+void ExactCoverSearch::TakeSingles() {
   WriteSingles(run_, Pos(), Levels[Depth]);
   Pos() = static_cast<std::int16_t>(Pos() - run_.count);
-  return outlook;
 }
 
 // The new level carries on the log of the level below it, so that the log is one stack along the

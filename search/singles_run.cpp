@@ -6,14 +6,20 @@
 
 namespace tessel {
 
+namespace {
+
+// What the candidates of a single that is placed get beside its digit: no longer one candidate, nor
+// none, whatever is taken.
+constexpr std::int16_t kPlaced = -0x4000;
+
+}  // namespace
+
 TESSEL_WIDE_VECTORS Outlook PlaceSingles(const SearchLevel& level, const HouseLanes& lanes,
                                          Outlook outlook, int ptr, int most, SinglesRun& run) {
   run.Order = level.Order;
-  // A loop copies whole vectors, and the passes below needn't wait for them.
-#pragma GCC ivdep
-  for (int i = 0; i < kLaneCount; ++i) run.Rank[i] = level.Rank[i];
   run.count = 0;
   const Lanes* before = &level.Candidates;
+  const Lanes* ranks = &level.Rank;
   do {
     const int single = outlook.SingleCell();
     const int position = outlook.SinglePosition();
@@ -21,22 +27,23 @@ TESSEL_WIDE_VECTORS Outlook PlaceSingles(const SearchLevel& level, const HouseLa
     const int last = run.Order[ptr];
     run.Order[position] = static_cast<std::int16_t>(last);
     run.Order[ptr] = static_cast<std::int16_t>(single);
-    run.bits[run.count++] = bit;
+    ++run.count;
     const auto nearer = static_cast<std::int16_t>((ptr - position) << kRankShift);
-    const std::int16_t* const ownLast = OwnLane(last);
-    const std::int16_t* const own = OwnLane(single);
+    const std::int16_t* const ownLast = OneLane<-1>(last);
+    const std::int16_t* const placed = OneLane<kPlaced>(single);
     const Lanes& peers = lanes.Peers(single);
     std::int16_t urgency = 0;
 #pragma GCC ivdep
     for (int i = 0; i < kLaneCount; ++i) {
-      const auto left = static_cast<Mask>(Without((*before)[i], peers[i] & bit) | own[i]);
-      const auto rank = static_cast<std::int16_t>(run.Rank[i] + (ownLast[i] & nearer));
+      const auto left = static_cast<Mask>(Without((*before)[i], peers[i] & bit) | placed[i]);
+      const auto rank = static_cast<std::int16_t>((*ranks)[i] + (ownLast[i] & nearer));
       run.Candidates[i] = left;
       run.Rank[i] = rank;
       urgency = std::max(urgency, Urgency(left, rank));
     }
     outlook = Outlook(urgency);
     before = &run.Candidates;
+    ranks = &run.Rank;
     --ptr;
   } while (outlook.Single() && run.count < most);
   return outlook;
@@ -53,7 +60,8 @@ TESSEL_WIDE_VECTORS void WriteSingles(const SinglesRun& run, int ptr, SearchLeve
   }
   level.Order = run.Order;
   for (int n = 0; n < run.count; ++n) {
-    level.Digit[run.Order[ptr - n]] = static_cast<std::int16_t>(LowestDigitOf(run.bits[n]));
+    const int cell = run.Order[ptr - n];
+    level.Digit[cell] = static_cast<std::int16_t>(LowestDigitOf(run.Candidates[cell]));
   }
 }
 

@@ -6,14 +6,13 @@
 
 namespace tessel {
 
-// What the singles change, as in a level, but that the candidates of the cells they fill are
-// negative.
+// What the singles change, as in a level, but that the candidates of a single are its digit's bit
+// in a negative number.
 struct SinglesRun {
   PerCell<std::int16_t> Order{};
   Lanes Candidates{};
   Lanes Rank{};
-  PerCell<Mask> bits{};  // of the digits placed, in turn
-  int count = 0;         // of the singles
+  int count = 0;  // of the singles
 };
 
 // Places up to `most` singles of `level`, of which `outlook` names the first, and takes each digit

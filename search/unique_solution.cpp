@@ -18,13 +18,11 @@ class SolutionCount final : public SearchDriver {
     return true;
   }
   bool ContinueAfterSolution() override { return ++solutions_ < 2; }
+  int Solutions() const { return solutions_; }
 
  private:
   View& view_;
   int solutions_ = 0;
-
- public:
-  int Solutions() const { return solutions_; }
 };
 
 // The digits that givens use up in each house.
@@ -54,8 +52,10 @@ class UsedDigits {
 
 }  // namespace
 
+// Most questions are answered by naked singles alone, which need no order then. Where they leave
+// cells open, the search begins anew, with the singles in its own order.
 bool ExactCoverSearch::UniqueSolution() {
-  lanes_.Follow(state_);
+  Reset();
   switch (FollowNakedSingles(state_.WorkGrid, lanes_.Houses())) {
     case SinglesEnd::kSolved:
       return true;
@@ -64,16 +64,14 @@ bool ExactCoverSearch::UniqueSolution() {
     case SinglesEnd::kOpen:
       break;
   }
-  if (!StartFromGivens() || !PlaceSinglesOfGivens()) return false;
-  if (Pos() == -1) return true;
+  StartFromGivens();
   SolutionCount driver(view_);
   return Run(driver) == SearchEnd::kExhausted && driver.Solutions() == 1;
 }
 
-// Positions 0..Pos list the empty cells in increasing order. False when givens are no digits, clash
-// with each other or leave an empty cell without a candidate.
-bool ExactCoverSearch::StartFromGivens() {
-  Reset();
+// Positions 0..Pos list the empty cells in increasing order, before the singles among them are
+// placed. The givens must not clash, nor the singles come to a dead end.
+void ExactCoverSearch::StartFromGivens() {
   SearchLevel& level = Levels[0];
   UsedDigits used(state_);
   int pos = -1;
@@ -82,29 +80,20 @@ bool ExactCoverSearch::StartFromGivens() {
     level.Digit[cell] = static_cast<std::int16_t>(given);
     if (given == 0) {
       level.Order[++pos] = static_cast<std::int16_t>(cell);
-    } else if (given <= kSide && Holds(used.FreeAt(cell), given)) {
-      used.Add(cell, BitOf(given));
     } else {
-      return false;
+      used.Add(cell, BitOf(given));
     }
   }
   for (int cell = 0; cell < kCellCount; ++cell) {
     level.Candidates[cell] = level.Digit[cell] == 0 ? used.FreeAt(cell) : Mask{0};
   }
   StartAt(pos);
-  return !OutlookOf(level).DeadEnd();
-}
-
-// False when a single leaves another cell without a candidate.
-bool ExactCoverSearch::PlaceSinglesOfGivens() {
-  Outlook outlook = OutlookOf(Levels[0]);
+  const Outlook outlook = OutlookOf(level);
   if (outlook.Single()) {
-    outlook = PlaceSingles(Levels[0], lanes_, outlook, Pos(), kCellCount, run_);
-    WriteSingles(run_, Pos(), Levels[0]);
-    Pos() = static_cast<std::int16_t>(Pos() - run_.count);
+    PlaceSingles(level, lanes_, outlook, pos, kCellCount, run_);
+    TakeSingles();
   }
   levelStart_[0] = Pos();
-  return !outlook.DeadEnd();
 }
 
 }  // namespace tessel
