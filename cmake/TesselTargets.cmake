@@ -31,3 +31,16 @@ function(tessel_library name)
   add_library(${name} STATIC ${ARG_SOURCES})
   target_link_libraries(${name} PUBLIC tessel_options ${ARG_LINKS})
 endfunction()
+
+# tessel_optimise_across_files(TARGET...): link-time optimisation in Release builds, where the
+# compiler has it. Not for code that uses Qt: its libraries' data must be reached as it was compiled.
+function(tessel_optimise_across_files)
+  if(NOT TESSEL_LTO OR NOT CMAKE_BUILD_TYPE STREQUAL "Release" OR TESSEL_SANITIZE)
+    return()
+  endif()
+  include(CheckIPOSupported)
+  check_ipo_supported(RESULT supported OUTPUT reason LANGUAGES CXX)
+  if(supported)
+    set_target_properties(${ARGN} PROPERTIES INTERPROCEDURAL_OPTIMIZATION ON)
+  endif()
+endfunction()
