@@ -4,14 +4,31 @@ namespace tessel {
 
 namespace {
 
-// For each cell, its place among the cells of its cage.
-PerCell<int> PlacesInCages(const GameState& state) {
-  PerCell<int> places{};
-  for (const HouseCells& cage : state.CageCells) {
-    for (int k = 0; k < kSide; ++k) places[cage[k]] = k;
+// What the rows and columns make of the tables.
+struct Lines {
+  PerCell<Lanes> peers{};
+  PerCell<LogLanes> log{};
+  PerCell<CellSet> houses{};
+};
+
+constexpr Lines kLines = [] {
+  Lines lines;
+  for (int cell = 0; cell < kCellCount; ++cell) {
+    lines.houses[cell] = CellSet::Of(cell);
+    const auto add = [&](int other, LogWords words) {
+      if (other == cell) return;
+      lines.peers[cell][other] = kAllCandidates;
+      lines.log[cell].first[other] = words.first;
+      lines.log[cell].second[other] = words.second;
+      lines.houses[cell] = lines.houses[cell] | CellSet::Of(other);
+    };
+    for (int i = 0; i < kSide; ++i) {
+      add(CellAt(RowOf(cell), i), LogWords::Of(1 << i, 0, 0));
+      add(CellAt(i, ColumnOf(cell)), LogWords::Of(0, 1 << i, 0));
+    }
   }
-  return places;
-}
+  return lines;
+}();
 
 }  // namespace
 
@@ -19,24 +36,22 @@ void HouseLanes::Follow(const GameState& state) {
   if (followed_ && layout_ == state.CageOfCell) return;
   followed_ = true;
   layout_ = state.CageOfCell;
-  const PerCell<int> placeInCage = PlacesInCages(state);
-  const auto naming = [&](int cell, int other) -> LogWords {
-    if (other == cell) return {};
-    if (RowOf(other) == RowOf(cell)) return LogWords::Of(1 << ColumnOf(other), 0, 0);
-    if (ColumnOf(other) == ColumnOf(cell)) return LogWords::Of(0, 1 << RowOf(other), 0);
-    const bool shareCage = layout_[cell] != 0 && layout_[other] == layout_[cell];
-    return shareCage ? LogWords::Of(0, 0, 1 << placeInCage[other]) : LogWords{};
-  };
+  peers_ = kLines.peers;
+  log_ = kLines.log;
+  houses_ = kLines.houses;
   for (int cell = 0; cell < kCellCount; ++cell) {
-    houses_[cell] = CellSet::Of(cell);
-    for (int other = 0; other < kCellCount; ++other) {
-      const LogWords words = naming(cell, other);
-      log_[cell].first[other] = words.first;
-      log_[cell].second[other] = words.second;
-      const bool arePeers = (words.first | words.second) != 0;
-      peers_[cell][other] = arePeers ? kAllCandidates : Mask{0};
-      if (arePeers) houses_[cell] = houses_[cell] | CellSet::Of(other);
-    }
+    if (layout_[cell] != 0) AddCage(cell, state.CageCells[layout_[cell] - 1]);
+  }
+}
+
+void HouseLanes::AddCage(int cell, const HouseCells& cage) {
+  for (int k = 0; k < kSide; ++k) {
+    const int other = cage[k];
+    houses_[cell] = houses_[cell] | CellSet::Of(other);
+    const bool inLine = other == cell || peers_[cell][other] != 0;
+    if (inLine) continue;
+    peers_[cell][other] = kAllCandidates;
+    log_[cell].second[other] = LogWords::Of(0, 0, 1 << k).second;
   }
 }
 

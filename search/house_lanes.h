@@ -60,6 +60,8 @@ class HouseLanes {
   void Follow(const GameState& state);
 
  private:
+  void AddCage(int cell, const HouseCells& cage);
+
   PerCell<Lanes> peers_{};
   PerCell<CellSet> houses_{};
   PerCell<LogLanes> log_{};
