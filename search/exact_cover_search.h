@@ -94,6 +94,7 @@ class ExactCoverSearch {
   void TakeSingles();
   void OpenLevel();
   Outlook PlaceTrial(int cell, int digit);
+  Outlook ReplaceTrial(int cell, int digit);
   std::int16_t& Pos() { return levelPos_[Depth]; }
 
   GameState& state_;

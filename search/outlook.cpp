@@ -20,6 +20,41 @@ inline void SetLane(Lanes& lanes, int cell, std::int16_t value) {
   }
 }
 
+LogWords LogEntry(const SearchLevel& level, int u) {
+  return LogWords::Of(level.UndoRowMask[u], level.UndoColumnMask[u], level.UndoCageMask[u]);
+}
+
+// All bits where the words name the cell, none where they do not.
+constexpr std::int16_t LaneOfNamed(const LogLanes& log, LogWords words, int cell) {
+  const int named = (log.first[cell] & words.first) | (log.second[cell] & words.second);
+  return static_cast<std::int16_t>(~LaneOfZero(static_cast<std::int16_t>(named)));
+}
+
+// Takes the candidate of `bit` after giving that of `before` back to the cells of `lost`.
+[[gnu::always_inline]] inline Outlook Take(SearchLevel& level, const HouseLanes& lanes, int placed,
+                                           Mask before, LogWords lost, Mask bit, int u) {
+  const Lanes& peers = lanes.Peers(placed);
+  const LogLanes& log = lanes.Log(placed);
+  LogWords words;
+  std::int16_t urgency = 0;
+  for (int cell = 0; cell < kLaneCount; ++cell) {
+    const std::int16_t rank = level.Rank[cell];
+    const auto candidates =
+        static_cast<Mask>(level.Candidates[cell] | (before & LaneOfNamed(log, lost, cell)));
+    const auto taken = static_cast<Mask>(candidates & peers[cell] & bit & ~LaneOfZero(rank));
+    const std::int16_t kept = LaneOfZero(taken);
+    words.first = static_cast<std::int16_t>(words.first | (log.first[cell] & ~kept));
+    words.second = static_cast<std::int16_t>(words.second | (log.second[cell] & ~kept));
+    const Mask left = Without(candidates, taken);
+    level.Candidates[cell] = left;
+    urgency = std::max(urgency, Urgency(left, rank));
+  }
+  level.UndoRowMask[u] = words.RowMask();
+  level.UndoColumnMask[u] = words.ColumnMask();
+  level.UndoCageMask[u] = words.CageMask();
+  return Outlook(urgency);
+}
+
 }  // namespace
 
 TESSEL_WIDE_VECTORS Outlook OutlookOf(const SearchLevel& level) {
@@ -33,37 +68,22 @@ TESSEL_WIDE_VECTORS Outlook OutlookOf(const SearchLevel& level) {
 TESSEL_WIDE_VECTORS Outlook TakeForTrial(SearchLevel& level, const HouseLanes& lanes, int placed,
                                          Mask bit, int u) {
   SetLane(level.Rank, placed, 0);
-  const Lanes& peers = lanes.Peers(placed);
-  const LogLanes& log = lanes.Log(placed);
-  LogWords words;
-  std::int16_t urgency = 0;
-  for (int cell = 0; cell < kLaneCount; ++cell) {
-    const std::int16_t rank = level.Rank[cell];
-    const auto taken =
-        static_cast<Mask>(level.Candidates[cell] & peers[cell] & bit & ~LaneOfZero(rank));
-    const std::int16_t kept = LaneOfZero(taken);
-    words.first = static_cast<std::int16_t>(words.first | (log.first[cell] & ~kept));
-    words.second = static_cast<std::int16_t>(words.second | (log.second[cell] & ~kept));
-    const Mask left = Without(level.Candidates[cell], taken);
-    level.Candidates[cell] = left;
-    urgency = std::max(urgency, Urgency(left, rank));
-  }
-  level.UndoRowMask[u] = words.RowMask();
-  level.UndoColumnMask[u] = words.ColumnMask();
-  level.UndoCageMask[u] = words.CageMask();
-  return Outlook(urgency);
+  return Take(level, lanes, placed, 0, LogWords{}, bit, u);
+}
+
+TESSEL_WIDE_VECTORS Outlook TakeForNextTrial(SearchLevel& level, const HouseLanes& lanes,
+                                             int placed, Mask before, Mask bit, int u) {
+  return Take(level, lanes, placed, before, LogEntry(level, u), bit, u);
 }
 
 TESSEL_WIDE_VECTORS void GiveBack(SearchLevel& level, const HouseLanes& lanes, int placed,
                                   std::int16_t rank, Mask bit, int u) {
   SetLane(level.Rank, placed, rank);
   const LogLanes& log = lanes.Log(placed);
-  const auto words =
-      LogWords::Of(level.UndoRowMask[u], level.UndoColumnMask[u], level.UndoCageMask[u]);
+  const LogWords lost = LogEntry(level, u);
   for (int cell = 0; cell < kLaneCount; ++cell) {
-    const auto lost =
-        static_cast<Mask>((log.first[cell] & words.first) | (log.second[cell] & words.second));
-    level.Candidates[cell] = static_cast<Mask>(level.Candidates[cell] | (bit & ~LaneOfZero(lost)));
+    level.Candidates[cell] =
+        static_cast<Mask>(level.Candidates[cell] | (bit & LaneOfNamed(log, lost, cell)));
   }
 }
 

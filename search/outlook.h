@@ -35,6 +35,10 @@ Outlook OutlookOf(const SearchLevel& level);
 // share a house with it; writes down in the three masks of log entry `u` which have lost it.
 Outlook TakeForTrial(SearchLevel& level, const HouseLanes& lanes, int cell, Mask bit, int u);
 
+// The same for a cell that holds the digit of `before` by log entry `u`, which is taken back.
+Outlook TakeForNextTrial(SearchLevel& level, const HouseLanes& lanes, int cell, Mask before,
+                         Mask bit, int u);
+
 // Empties `cell` again, which has this `rank` then, and gives the candidate of `bit`
 // back to the cells that log entry `u` names.
 void GiveBack(SearchLevel& level, const HouseLanes& lanes, int cell, std::int16_t rank, Mask bit,

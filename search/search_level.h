@@ -12,7 +12,7 @@ namespace tessel {
 // One 16-bit lane for each cell 0..80 and some more, so that passes over the board take whole
 // vectors.
 inline constexpr int kLaneCount = 96;
-struct alignas(32) Lanes : std::array<std::int16_t, kLaneCount> {};
+struct alignas(64) Lanes : std::array<std::int16_t, kLaneCount> {};
 
 struct SearchLevel {
   PerCell<std::int16_t> Digit{};  // digit placed in the cell, 0 = not placed

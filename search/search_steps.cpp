@@ -90,17 +90,15 @@ Outlook ExactCoverSearch::TryFirstDigit() {
 std::optional<Outlook> ExactCoverSearch::TryNextDigit() {
   SearchLevel& level = Levels[Depth];
   const int cell = level.Order[Pos()];
-  const bool last = level.LastChoice[cell] == kYes;
   const int tried = level.Digit[cell];
-  // What is left of the cell's candidates, which the undoing does not touch.
-  const auto higher = static_cast<Mask>(level.Candidates[cell] >> tried);
-  DLXUndo();
-  if (last) {
+  if (level.LastChoice[cell] == kYes) {
+    DLXUndo();
     level.LastChoice[cell] = kNo;
     return std::nullopt;
   }
+  const auto higher = static_cast<Mask>(level.Candidates[cell] >> tried);
   level.LastChoice[cell] = (higher & (higher - 1)) != 0 ? kNo : kYes;
-  return PlaceTrial(cell, tried + LowestDigitOf(higher));
+  return ReplaceTrial(cell, tried + LowestDigitOf(higher));
 }
 
 // Step 10. There is a single to be placed. A contradiction drops the singles and goes back to the
@@ -163,6 +161,16 @@ Outlook ExactCoverSearch::PlaceTrial(int cell, int digit) {
   level.UndoDigit[u] = static_cast<std::int16_t>(digit);
   level.Digit[cell] = static_cast<std::int16_t>(digit);
   return TakeForTrial(level, lanes_, cell, BitOf(digit), u);
+}
+
+// DLXUndo and PlaceTrial in one: the newest entry of the log is the cell's.
+Outlook ExactCoverSearch::ReplaceTrial(int cell, int digit) {
+  SearchLevel& level = Levels[Depth];
+  const int u = level.UndoCount;
+  const Mask before = BitOf(level.UndoDigit[u]);
+  level.UndoDigit[u] = static_cast<std::int16_t>(digit);
+  level.Digit[cell] = static_cast<std::int16_t>(digit);
+  return TakeForNextTrial(level, lanes_, cell, before, BitOf(digit), u);
 }
 
 void ExactCoverSearch::DLXUndo() {
