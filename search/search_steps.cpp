@@ -92,6 +92,8 @@ std::optional<Outlook> ExactCoverSearch::TryNextDigit() {
   const int cell = level.Order[Pos()];
   const int tried = level.Digit[cell];
   if (level.LastChoice[cell] == kYes) {
+    // Nobody sees what is left in a level that is dropped next.
+    if (Pos() == levelStart_[Depth] && Depth > 0) return std::nullopt;
     DLXUndo();
     level.LastChoice[cell] = kNo;
     return std::nullopt;
