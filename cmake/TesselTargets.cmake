@@ -32,14 +32,17 @@ function(tessel_library name)
   target_link_libraries(${name} PUBLIC tessel_options ${ARG_LINKS})
 endfunction()
 
-# tessel_optimise_across_files(TARGET...): link-time optimisation in Release builds, where the
-# compiler has it. Not for code that uses Qt: its libraries' data must be reached as it was compiled.
+# tessel_optimise_across_files(TARGET...): link-time optimisation of these libraries in Release
+# builds with GCC, whose linker takes them without a word; Clang's would have to be told at every
+# program. Not for code that uses Qt: its libraries forbid that their data be addressed directly,
+# which this optimisation would do.
 function(tessel_optimise_across_files)
-  if(NOT TESSEL_LTO OR NOT CMAKE_BUILD_TYPE STREQUAL "Release" OR TESSEL_SANITIZE)
+  if(NOT TESSEL_LTO OR NOT CMAKE_BUILD_TYPE STREQUAL "Release" OR TESSEL_SANITIZE
+     OR NOT CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     return()
   endif()
   include(CheckIPOSupported)
-  check_ipo_supported(RESULT supported OUTPUT reason LANGUAGES CXX)
+  check_ipo_supported(RESULT supported LANGUAGES CXX)
   if(supported)
     set_target_properties(${ARGN} PROPERTIES INTERPROCEDURAL_OPTIMIZATION ON)
   endif()

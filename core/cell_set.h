@@ -1,4 +1,4 @@
-// A set of cells as 81 bits, for flood fills that take a whole board at a time.
+// A set of cells as 81 bits, for steps that take a whole board at a time.
 #pragma once
 
 #include <bit>

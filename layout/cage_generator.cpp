@@ -152,7 +152,8 @@ bool CageGenerator::ClaimNextCentreCell() {
 }
 
 // Steps within the cage until one leads to an unclaimed cell; none when so many steps have led to
-// other cages. What a step finds is hard to foresee: moving and counting are no branches.
+// other cages. The processor cannot foresee what a step finds: so moving and counting are done
+// without branches, and the direction of the next step is drawn before it is needed.
 std::optional<int> CageGenerator::WalkToUnclaimed(int mostOthers) {
   int cell = CurrentCell;
   for (int others = 0; others < mostOthers;) {
@@ -167,8 +168,7 @@ std::optional<int> CageGenerator::WalkToUnclaimed(int mostOthers) {
   return std::nullopt;
 }
 
-// The cell that one step of the walk leads to, in a random direction. The direction of the step
-// after it is drawn meanwhile.
+// The cell that one step of the walk leads to, in a random direction.
 int CageGenerator::StepFrom(int cell) {
   view_.PumpEvents();
   const int direction = std::exchange(nextDirection_, DrawDirection());

@@ -63,7 +63,7 @@ class CageGenerator {
   std::array<int, kSide> GrowthList{};  // the cells of Cage in the order of their claiming
   CellSet grown_;                       // the cells of Cage
   PerCell<std::int8_t> own_{};          // -1 for the cells of Cage, 0 for the others
-  Regions unclaimed_;                   // of the cells in no cage, but for the centre cage's growth
+  Regions unclaimed_;                   // of the cells in no cage, until the centre cage grows
 };
 
 }  // namespace tessel

@@ -1,4 +1,4 @@
-// The connected regions of a set of cells, which losing a cell seldom changes.
+// The connected regions of a set of cells, kept up to date while cells are taken out.
 #pragma once
 
 #include "core/cell_set.h"
@@ -11,7 +11,7 @@ struct Regions {
   CellSet others;  // the cells of all others
 
   CellSet All() const { return first | second | others; }
-  // The regions without a cell of theirs.
+  // The regions after `cell`, one of theirs, is taken out.
   Regions Without(int cell) const;
 };
 

@@ -26,8 +26,8 @@ class SearchDriver {
   // A full solution stands in the top level; true looks for the next one.
   virtual bool ContinueAfterSolution() = 0;
 
-  // Whether the driver is told of placements. A level is opened for singles that come to a dead end
-  // only when it is; otherwise nobody could tell.
+  // Whether TrialPlaced and SinglePlaced are called; off until FollowPlacements. While it is off,
+  // no level is opened for singles that come to a dead end: no driver could see it.
   bool FollowsPlacements() const { return followsPlacements_; }
   // `pos`: the position of the placed cell.
   virtual void TrialPlaced(int pos, int cell);
@@ -89,8 +89,8 @@ class ExactCoverSearch {
   Outlook TryFirstDigit();
   std::optional<Outlook> TryNextDigit();
   void PropagateSingles(SearchDriver& driver, Outlook outlook);
-  Outlook FollowSingles(SearchDriver& driver, Outlook outlook);
-  Outlook PlaceAllSingles(Outlook outlook);
+  Outlook PlaceSinglesOneByOne(SearchDriver& driver, Outlook outlook);
+  Outlook PlaceSinglesAtOnce(Outlook outlook);
   void TakeSingles();
   void OpenLevel();
   Outlook PlaceTrial(int cell, int digit);

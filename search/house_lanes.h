@@ -1,4 +1,4 @@
-// The houses of each cell as rows of 16-bit lanes, one for each cell of the board.
+// The houses of each cell: as rows of 16-bit lanes, one for each cell of the board, and as sets.
 #pragma once
 
 #include "core/cell_set.h"
@@ -56,7 +56,8 @@ class HouseLanes {
   // the column mask (bit r in row r), else in the cage mask (bit k for the cage's k-th cell).
   const LogLanes& Log(int cell) const { return log_[cell]; }
 
-  // Follows the layout when it has changed. A cell outside all cages shares none.
+  // Follows the layout when it has changed. CageCells must be
+  // derived from CageOfCell. A cell outside all cages shares none.
   void Follow(const GameState& state);
 
  private:

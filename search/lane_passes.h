@@ -13,6 +13,14 @@
 #define TESSEL_WIDE_VECTORS
 #endif
 
+// Before a loop that reads and writes the same lanes, or lanes far apart: the compiler needn't
+// check.
+#if defined(__GNUC__) && !defined(__clang__)
+#define TESSEL_SAME_LANES _Pragma("GCC ivdep")
+#else
+#define TESSEL_SAME_LANES
+#endif
+
 namespace tessel {
 
 // All bits where the number is 0, none where it is not.

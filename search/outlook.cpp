@@ -9,7 +9,7 @@ namespace tessel {
 namespace {
 
 // Writes a lane as a part of whole vectors: a pass that reads them would have to wait for a lane
-// written alone.
+// written alone. Unrolled, the loop would become single lanes.
 inline void SetLane(Lanes& lanes, int cell, std::int16_t value) {
   constexpr int width = 16;
   std::int16_t* const lane = lanes.data() + cell / width * width;

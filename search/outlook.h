@@ -39,7 +39,7 @@ Outlook TakeForTrial(SearchLevel& level, const HouseLanes& lanes, int cell, Mask
 Outlook TakeForNextTrial(SearchLevel& level, const HouseLanes& lanes, int cell, Mask before,
                          Mask bit, int u);
 
-// Empties `cell` again, which has this `rank` then, and gives the candidate of `bit`
+// Marks `cell` as unfilled again, with this `rank`, and gives the candidate of `bit`
 // back to the cells that log entry `u` names.
 void GiveBack(SearchLevel& level, const HouseLanes& lanes, int cell, std::int16_t rank, Mask bit,
               int u);

@@ -86,11 +86,11 @@ Outlook ExactCoverSearch::TryFirstDigit() {
   return PlaceTrial(cell, LowestDigitOf(level.Candidates[cell]));
 }
 
-// Step 8. None when the cell's digits are used up; it is empty again then.
+// Step 8. None when the cell's digits are used up; it is empty again then, unless its level is
+// dropped next.
 std::optional<Outlook> ExactCoverSearch::TryNextDigit() {
   SearchLevel& level = Levels[Depth];
   const int cell = level.Order[Pos()];
-  const int tried = level.Digit[cell];
   if (level.LastChoice[cell] == kYes) {
     // Nobody sees what is left in a level that is dropped next.
     if (Pos() == levelStart_[Depth] && Depth > 0) return std::nullopt;
@@ -98,6 +98,7 @@ std::optional<Outlook> ExactCoverSearch::TryNextDigit() {
     level.LastChoice[cell] = kNo;
     return std::nullopt;
   }
+  const int tried = level.Digit[cell];
   const auto higher = static_cast<Mask>(level.Candidates[cell] >> tried);
   level.LastChoice[cell] = (higher & (higher - 1)) != 0 ? kNo : kYes;
   return ReplaceTrial(cell, tried + LowestDigitOf(higher));
@@ -107,7 +108,8 @@ std::optional<Outlook> ExactCoverSearch::TryNextDigit() {
 // cell placed last.
 void ExactCoverSearch::PropagateSingles(SearchDriver& driver, Outlook outlook) {
   const std::int16_t depth = Depth;
-  outlook = driver.FollowsPlacements() ? FollowSingles(driver, outlook) : PlaceAllSingles(outlook);
+  outlook = driver.FollowsPlacements() ? PlaceSinglesOneByOne(driver, outlook)
+                                       : PlaceSinglesAtOnce(outlook);
   if (outlook.DeadEnd()) {
     Depth = depth;
     ++Pos();
@@ -117,7 +119,7 @@ void ExactCoverSearch::PropagateSingles(SearchDriver& driver, Outlook outlook) {
   levelStart_[Depth] = Pos();
 }
 
-Outlook ExactCoverSearch::FollowSingles(SearchDriver& driver, Outlook outlook) {
+Outlook ExactCoverSearch::PlaceSinglesOneByOne(SearchDriver& driver, Outlook outlook) {
   OpenLevel();
   while (outlook.Single()) {
     outlook = PlaceSingles(Top(), lanes_, outlook, Pos(), 1, run_);
@@ -128,7 +130,7 @@ Outlook ExactCoverSearch::FollowSingles(SearchDriver& driver, Outlook outlook) {
 }
 
 // Opens no level for singles that come to a dead end.
-Outlook ExactCoverSearch::PlaceAllSingles(Outlook outlook) {
+Outlook ExactCoverSearch::PlaceSinglesAtOnce(Outlook outlook) {
   outlook = PlaceSingles(Top(), lanes_, outlook, Pos(), kCellCount, run_);
   if (outlook.DeadEnd()) return outlook;
   OpenLevel();

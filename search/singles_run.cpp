@@ -11,6 +11,7 @@ namespace {
 // What the candidates of a single that is placed get beside its digit: no longer one candidate, nor
 // none, whatever is taken.
 constexpr std::int16_t kPlaced = -0x4000;
+static_assert(Urgency(kPlaced | 0b1, RankAt(0, 7)) == 0 && Urgency(kPlaced, RankAt(0, 7)) == 0);
 
 }  // namespace
 
@@ -33,7 +34,7 @@ TESSEL_WIDE_VECTORS Outlook PlaceSingles(const SearchLevel& level, const HouseLa
     const std::int16_t* const placed = OneLane<kPlaced>(single);
     const Lanes& peers = lanes.Peers(single);
     std::int16_t urgency = 0;
-#pragma GCC ivdep
+    TESSEL_SAME_LANES
     for (int i = 0; i < kLaneCount; ++i) {
       const auto left = static_cast<Mask>(Without((*before)[i], peers[i] & bit) | placed[i]);
       const auto rank = static_cast<std::int16_t>((*ranks)[i] + (ownLast[i] & nearer));
@@ -50,7 +51,7 @@ TESSEL_WIDE_VECTORS Outlook PlaceSingles(const SearchLevel& level, const HouseLa
 }
 
 TESSEL_WIDE_VECTORS void WriteSingles(const SinglesRun& run, int ptr, SearchLevel& level) {
-#pragma GCC ivdep
+  TESSEL_SAME_LANES
   for (int i = 0; i < kLaneCount; ++i) {
     const std::int16_t wasFilled = LaneOfZero(level.Rank[i]);
     const std::int16_t single = LaneOfNegative(run.Candidates[i]);

@@ -6,8 +6,10 @@
 
 namespace tessel {
 
-// What the singles change, as in a level, but that the candidates of a single are its digit's bit
-// in a negative number.
+// What the singles change; kept from one run to the next because it is large. Until WriteSingles
+// has taken it over, three things are not as in a level: a single's candidates are its digit's bit
+// in a negative number, it keeps a rank, and what stands for the cells filled before has no
+// meaning.
 struct SinglesRun {
   PerCell<std::int16_t> Order{};
   Lanes Candidates{};
@@ -21,7 +23,7 @@ struct SinglesRun {
 Outlook PlaceSingles(const SearchLevel& level, const HouseLanes& lanes, Outlook outlook, int ptr,
                      int most, SinglesRun& run);
 
-// Writes the run into `level`, which must equal the one it was read from.
+// Writes the run into `level`, which must equal the one it was read from; `ptr` as there.
 void WriteSingles(const SinglesRun& run, int ptr, SearchLevel& level);
 
 }  // namespace tessel

@@ -25,31 +25,6 @@ class SolutionCount final : public SearchDriver {
   int solutions_ = 0;
 };
 
-// The digits that givens use up in each house.
-class UsedDigits {
- public:
-  explicit UsedDigits(const GameState& state) : state_(state) {}
-
-  Mask FreeAt(int cell) const {
-    const int used =
-        rows_[RowOf(cell)] | columns_[ColumnOf(cell)] | cages_[state_.CageOfCell[cell]];
-    return Without(kAllCandidates, static_cast<Mask>(used));
-  }
-  void Add(int cell, Mask bit) {
-    AddTo(rows_[RowOf(cell)], bit);
-    AddTo(columns_[ColumnOf(cell)], bit);
-    if (state_.CageOfCell[cell] != 0) AddTo(cages_[state_.CageOfCell[cell]], bit);
-  }
-
- private:
-  static void AddTo(Mask& house, Mask bit) { house = static_cast<Mask>(house | bit); }
-
-  const GameState& state_;
-  std::array<Mask, kSide> rows_{};
-  std::array<Mask, kSide> columns_{};
-  std::array<Mask, kSide + 1> cages_{};  // index 0, for cells in no cage, stays empty
-};
-
 }  // namespace
 
 // Most questions are answered by naked singles alone, which need no order then. Where they leave
@@ -73,7 +48,6 @@ bool ExactCoverSearch::UniqueSolution() {
 // placed. The givens must not clash, nor the singles come to a dead end.
 void ExactCoverSearch::StartFromGivens() {
   SearchLevel& level = Levels[0];
-  UsedDigits used(state_);
   int pos = -1;
   for (int cell = 0; cell < kCellCount; ++cell) {
     const int given = std::max<int>(0, state_.WorkGrid[cell]);
@@ -81,11 +55,11 @@ void ExactCoverSearch::StartFromGivens() {
     if (given == 0) {
       level.Order[++pos] = static_cast<std::int16_t>(cell);
     } else {
-      used.Add(cell, BitOf(given));
+      level.Candidates[cell] = 0;
+      ForEach(lanes_.Houses()[cell], [&](int other) {
+        level.Candidates[other] = Without(level.Candidates[other], BitOf(given));
+      });
     }
-  }
-  for (int cell = 0; cell < kCellCount; ++cell) {
-    level.Candidates[cell] = level.Digit[cell] == 0 ? used.FreeAt(cell) : Mask{0};
   }
   StartAt(pos);
   const Outlook outlook = OutlookOf(level);

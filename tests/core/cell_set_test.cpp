@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <set>
+#include <vector>
 
 #include "core/random_source.h"
 
@@ -103,6 +104,13 @@ TEST(NeighboursOf, StayOutsideTheSetAndOnTheBoard) {
   EXPECT_TRUE(NeighboursOf(kAllCells).Empty());
   const CellSet corner = CellSet::Of(79) | CellSet::Of(80);
   EXPECT_EQ(ToNaive(NeighboursOf(corner)), (NaiveSet{70, 71, 78}));
+}
+
+TEST(ForEach, VisitsEveryCellInIncreasingOrder) {
+  std::vector<int> visited;
+  ForEach(FromNaive({80, 0, 44, 45, 40}), [&](int cell) { visited.push_back(cell); });
+  EXPECT_EQ(visited, (std::vector{0, 40, 44, 45, 80}));
+  ForEach(CellSet{}, [](int cell) { ADD_FAILURE() << cell; });
 }
 
 TEST(FirstRegionOf, AgreesWithANaiveFloodFill) {
