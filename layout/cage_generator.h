@@ -62,7 +62,7 @@ class CageGenerator {
   int CurrentCell = 0;                  // the walker, always on a cell of Cage
   std::array<int, kSide> GrowthList{};  // the cells of Cage in the order of their claiming
   CellSet grown_;                       // the cells of Cage
-  PerCell<std::int8_t> own_{};          // -1 for the cells of Cage, 0 for the others
+  PerCell<std::int8_t> own_{};          // -1 for these, 0 for the others: the walk's arithmetic
   Regions unclaimed_;                   // of the cells in no cage, until the centre cage grows
 };
 

@@ -56,8 +56,8 @@ class HouseLanes {
   // the column mask (bit r in row r), else in the cage mask (bit k for the cage's k-th cell).
   const LogLanes& Log(int cell) const { return log_[cell]; }
 
-  // Follows the layout when it has changed. CageCells must be
-  // derived from CageOfCell. A cell outside all cages shares none.
+  // Follows the layout when it has changed. CageCells must be derived from
+  // CageOfCell. A cell outside all cages shares none.
   void Follow(const GameState& state);
 
  private:

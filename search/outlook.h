@@ -39,8 +39,8 @@ Outlook TakeForTrial(SearchLevel& level, const HouseLanes& lanes, int cell, Mask
 Outlook TakeForNextTrial(SearchLevel& level, const HouseLanes& lanes, int cell, Mask before,
                          Mask bit, int u);
 
-// Marks `cell` as unfilled again, with this `rank`, and gives the candidate of `bit`
-// back to the cells that log entry `u` names.
+// Marks `cell` as unfilled again, with this `rank`, and gives the candidate of `bit` back
+// to the cells that log entry `u` names.
 void GiveBack(SearchLevel& level, const HouseLanes& lanes, int cell, std::int16_t rank, Mask bit,
               int u);
 
