@@ -13,6 +13,18 @@ int CountSetBits(int value) {
   return count;
 }
 
+int CellOf(const GameState& state, HouseKind kind, int index, int k) {
+  switch (kind) {
+    case HouseKind::kRow:
+      return CellAt(index, k);
+    case HouseKind::kColumn:
+      return CellAt(k, index);
+    case HouseKind::kCage:
+      return state.CageCells[index][k];
+  }
+  return 0;
+}
+
 }  // namespace
 
 void FillTables(GameState& state) {
@@ -38,6 +50,22 @@ std::span<const std::int16_t> CageAround(const GameState& state, int cell) {
   const int cage = state.CageOfCell[cell];
   if (cage < 1 || cage > kSide) return {};
   return state.CageCells[cage - 1];
+}
+
+Houses HousesOf(const GameState& state) {
+  Houses houses;
+  std::size_t next = 0;
+  for (const HouseKind kind : kHouseKinds) {
+    for (int index = 0; index < kSide; ++index) {
+      House& house = houses[next++];
+      house.kind = kind;
+      house.index = index;
+      for (int k = 0; k < kSide; ++k) {
+        house.cells[k] = static_cast<std::int16_t>(CellOf(state, kind, index, k));
+      }
+    }
+  }
+  return houses;
 }
 
 Rgb CageColourOf(const GameState& state, int cell) {

@@ -8,8 +8,9 @@
 #include <string>
 #include <vector>
 
-#include "core/cell.h"
+#include "core/board.h"
 #include "core/colour.h"
+#include "core/houses.h"
 #include "core/puzzle_record.h"
 #include "core/stopwatch.h"
 
@@ -45,12 +46,6 @@ enum class HintCode : std::int16_t {
   SwordFishRows = 16,
   SwordFishColumns = 17,
 };
-
-template <typename T>
-using PerCell = std::array<T, kCellCount>;
-using CellDigits = PerCell<std::int16_t>;  // digit 1..9, or 0 for none
-using MaskBoard = PerCell<Mask>;           // a candidate mask for each cell
-using HouseCells = std::array<std::int16_t, kSide>;
 
 struct GameState {
   std::string ProgramPath;  // the program's folder, always ending in the platform's separator
@@ -110,6 +105,9 @@ void RebuildCageCells(GameState& state);
 
 // The cells of the cage that `cell` lies in; none while the cell is in no cage.
 std::span<const std::int16_t> CageAround(const GameState& state, int cell);
+
+// The houses of a complete layout.
+Houses HousesOf(const GameState& state);
 
 // The background of the cell's cage; the board's own colour while the cell is in no cage.
 Rgb CageColourOf(const GameState& state, int cell);

@@ -8,7 +8,7 @@
 #include <span>
 
 #include "core/cell.h"
-#include "core/houses.h"
+#include "core/game_state.h"
 
 namespace tessel {
 

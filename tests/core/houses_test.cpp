@@ -1,8 +1,7 @@
-#include "core/houses.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "core/game_state.h"
 #include "tests/core/layouts.h"
 
 namespace tessel {
