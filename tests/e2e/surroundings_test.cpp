@@ -10,6 +10,7 @@
 
 #include "tests/e2e/puzzle_file_reading.h"
 #include "tests/e2e/user.h"
+#include "tests/source_folder.h"
 
 namespace tessel {
 namespace {
@@ -163,7 +164,7 @@ TEST_F(BadSurroundings, NoDisplayIsToldInOneLine) {
 }
 
 TEST(Play, TellsBeforeAnyWorkThatThereIsNoDisplay) {
-  ExpectOneClearLine(RunWithoutDisplay(TESSEL_SOURCE_DIR "/play", ""));
+  ExpectOneClearLine(RunWithoutDisplay(QString::fromStdString(SourceFolder() + "/play"), ""));
 }
 
 }  // namespace

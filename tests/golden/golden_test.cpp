@@ -10,12 +10,13 @@
 #include <vector>
 
 #include "tests/golden/games.h"
+#include "tests/source_folder.h"
 
 namespace tessel {
 namespace {
 
 std::filesystem::path FileOf(const Game& game) {
-  return std::filesystem::path(TESSEL_SOURCE_DIR) / "tests" / "golden" /
+  return std::filesystem::path(SourceFolder()) / "tests" / "golden" /
          (std::string(game.name) + ".txt");
 }
 

@@ -3,6 +3,8 @@
 #include <fstream>
 #include <stdexcept>
 
+#include "tests/source_folder.h"
+
 namespace tessel {
 
 namespace {
@@ -38,7 +40,7 @@ MaskBoard MarksOf(const std::string& text) {
 }  // namespace
 
 std::vector<RecordedBoard> ReadRecordedBoards() {
-  std::ifstream file(TESSEL_SOURCE_DIR "/tests/hints/boards.txt");
+  std::ifstream file(SourceFolder() + "/tests/hints/boards.txt");
   if (!file) throw std::runtime_error("boards.txt cannot be read");
   std::vector<RecordedBoard> boards;
   for (std::string line; std::getline(file, line);) {
