@@ -4,6 +4,8 @@
 #include <QPainter>
 #include <QtMath>
 
+#include "core/cage_edges.h"
+
 namespace tessel {
 
 namespace {
@@ -170,14 +172,15 @@ void BoardPainter::PaintEdges(QPainter& painter, int cell, Line line) const {
   const auto level = [&](int y) {
     painter.fillRect(place.left() - before, y - before, place.width() + overlap, width, colour);
   };
-  const auto isBorder = [&](bool atFrame, int neighbour) {
-    return atFrame ||
-           form_.Cell(cell).PaintedBackground() != form_.Cell(neighbour).PaintedBackground();
+  const auto sameGround = [this](int a, int b) {
+    return form_.Cell(a).PaintedBackground() == form_.Cell(b).PaintedBackground();
   };
-  if (isBorder(ColumnOf(cell) == 0, cell - 1) == border) upright(place.left());
-  if (isBorder(RowOf(cell) == 0, cell - kSide) == border) level(place.top());
-  if (border && ColumnOf(cell) == kSide - 1) upright(place.left() + place.width());
-  if (border && RowOf(cell) == kSide - 1) level(place.top() + place.height());
+  const auto isBorder = [&](CellSide side) { return IsWall(cell, side, sameGround); };
+  const auto atFrame = [&](CellSide side) { return !NeighbourBeyond(cell, side); };
+  if (isBorder(CellSide::kLeft) == border) upright(place.left());
+  if (isBorder(CellSide::kTop) == border) level(place.top());
+  if (border && atFrame(CellSide::kRight)) upright(place.left() + place.width());
+  if (border && atFrame(CellSide::kBottom)) level(place.top() + place.height());
 }
 
 QRegion BoardPainter::RegionOf(const auto& contains) const {
