@@ -1,7 +1,7 @@
 # The Debian 12 packages that the project needs, and their installation. To be sourced.
 
 build_packages=(g++ cmake ninja-build libexpected-dev qt6-base-dev qt6-multimedia-dev)
-check_packages=(libgmock-dev clang-format-14 xvfb openbox xdotool x11-utils pulseaudio pulseaudio-utils)
+check_packages=(libgmock-dev clang-format-14 clang-tidy-14 xvfb openbox xdotool x11-utils pulseaudio pulseaudio-utils)
 
 missing_packages() {
   local installed

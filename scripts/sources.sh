@@ -1,6 +1,11 @@
 # To be sourced from the root of the project.
 
-# Every C++ file of the project, one a line.
+program_folders=(core layout search solver hints grade maker formats explain paper shell tools sounds)
+
+# cpp_files: every C++ file of the project, one a line. program_files: the .cpp files of the programs.
 cpp_files() {
-  find core layout search hints shell sounds tests bench fuzz -name '*.h' -o -name '*.cpp' | sort
+  find "${program_folders[@]}" tests bench fuzz -name '*.h' -o -name '*.cpp' 2>/dev/null | sort
+}
+program_files() {
+  find "${program_folders[@]}" -name '*.cpp' 2>/dev/null | sort
 }

@@ -4,6 +4,8 @@
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
+#include "core/version.h"
+
 namespace tessel {
 
 namespace {
@@ -56,7 +58,7 @@ HelpDialog::HelpDialog(QWidget* parent) : QDialog(parent) {
   auto* page = new QTextBrowser(this);
   page->setObjectName("HelpPage");
   page->setAccessibleName("Help");
-  page->setHtml(QString::fromUtf8(kPage));
+  page->setHtml(QString::fromUtf8(kPage) + QString("<p>Version %1</p>").arg(Version()));
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   auto* column = new QVBoxLayout(this);

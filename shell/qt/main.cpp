@@ -3,8 +3,10 @@
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
+#include <string_view>
 
 #include "core/random_source.h"
+#include "core/version.h"
 #include "shell/qt/qt_sound_player.h"
 #include "shell/qt/system_clock.h"
 #include "shell/qt/tessel_window.h"
@@ -21,8 +23,12 @@ void SayThatThereIsNoDisplay(QtMsgType type, const QMessageLogContext&, const QS
 
 }  // namespace
 
-int main(int, char** argv) {
-  int argumentCount = 1;  // the program has no command line, and Qt shall not read one either
+int main(int given, char** argv) {
+  if (given == 2 && std::string_view(argv[1]) == "--version") {
+    std::printf("tessel-sudoku %s\n", tessel::Version());
+    return EXIT_SUCCESS;
+  }
+  int argumentCount = 1;  // there is no command line beside this, and Qt shall not read one either
   const QtMessageHandler usual = qInstallMessageHandler(SayThatThereIsNoDisplay);
   QApplication application(argumentCount, argv);
   qInstallMessageHandler(usual);

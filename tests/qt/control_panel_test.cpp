@@ -8,6 +8,7 @@
 #include <map>
 #include <set>
 
+#include "core/version.h"
 #include "tests/qt/window_program.h"
 
 namespace tessel {
@@ -260,6 +261,7 @@ TEST(ControlPanel, HelpIsOnePageInsideTheProgram) {
         "right or wrong", "Only Restart", "not give them back", "Update Pencilmarks"}) {
     EXPECT_TRUE(page.contains(topic)) << topic;
   }
+  EXPECT_TRUE(page.contains(QString("Version ") + Version()));
 }
 
 }  // namespace
