@@ -30,6 +30,8 @@ class View {
   virtual std::int32_t WindowHandle() = 0;
   // Delivers the events that wait; called once a step of long work, so it must be cheap.
   virtual void PumpEvents() = 0;
+  // The same for a command that waits: PumpEvents may put events off, this does not.
+  virtual void PumpEventsNow() { PumpEvents(); }
   virtual bool AskYesNo(const std::string& question, const std::string& title) = 0;
   virtual void Beep() = 0;
   virtual void EndProgram() = 0;

@@ -6,6 +6,7 @@
 #include "search/fill.h"
 #include "search/try_out.h"
 #include "shell/puzzle_file.h"
+#include "shell/puzzle_saver.h"
 #include "shell/tessel_main.h"
 
 namespace tessel {
@@ -117,7 +118,8 @@ void Tessel_Main::SaveTessel() {
     state_.SavedPuzzle.CageMap[cell] = static_cast<std::uint8_t>(state_.CageOfCell[cell]);
   }
   const std::string path = state_.ProgramPath + kPuzzleFileName;
-  if (const auto error = AppendPuzzle(path, state_.SavedPuzzle, system_)) {
+  const auto letWindowAnswer = [this] { view_.PumpEventsNow(); };
+  if (const auto error = SavePuzzle(path, state_.SavedPuzzle, system_, letWindowAnswer)) {
     form_.SetNotice("The puzzle could not be saved to " + path + ": " + *error);
   }
 }

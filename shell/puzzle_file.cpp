@@ -5,6 +5,7 @@
 
 #include <cerrno>
 #include <system_error>
+#include <tl/expected.hpp>
 #include <utility>
 
 namespace tessel {
@@ -12,10 +13,10 @@ namespace tessel {
 namespace {
 
 constexpr mode_t kNewFileMode = 0644;
-constexpr int kLockAttempts = 3000;
+constexpr std::int64_t kLockPatienceMilliseconds = 2'900;
 constexpr int kLockPauseMilliseconds = 1;
 
-std::optional<std::string> LastError() {
+std::string LastError() {
   return std::generic_category().message(errno);
 }
 
@@ -25,6 +26,10 @@ auto Uninterrupted(Call call) {
   auto result = call();
   while (result < 0 && errno == EINTR) result = call();
   return result;
+}
+
+bool IsSameFile(const struct stat& a, const struct stat& b) {
+  return a.st_dev == b.st_dev && a.st_ino == b.st_ino;
 }
 
 // The open file; closed, and with that unlocked, at the end of its life.
@@ -41,46 +46,30 @@ class OpenFile {
     if (file_ >= 0) system_.Close(file_);
   }
 
-  std::optional<std::string> Append(const PuzzleRecord& record) {
-    if (file_ < 0) return LastError();
-    if (auto error = Lock()) return error;
-    struct stat status {};
-    if (system_.Fstat(file_, &status) != 0) return LastError();
-    if (!S_ISREG(status.st_mode)) return "Not a regular file";
-    return Write(record, status.st_size);
-  }
+  bool IsOpen() const { return file_ >= 0; }
 
-  // Closing may report that an earlier write did not reach the disk.
-  std::optional<std::string> Close() {
-    const int file = std::exchange(file_, -1);
-    if (system_.Close(file) != 0 && errno != EINTR) return LastError();
+  // Waits until `deadline` on the system's clock, so that a program which hangs with the lock in
+  // its hands cannot hang this one. Polls, because a wait inside the call could not be bounded.
+  std::optional<std::string> Lock(std::int64_t deadline) {
+    while (system_.Flock(file_, LOCK_EX | LOCK_NB) != 0) {
+      if (errno == ENOLCK || errno == EOPNOTSUPP) return std::nullopt;  // no locks on this disk
+      if (errno != EWOULDBLOCK && errno != EINTR) return LastError();
+      if (system_.Milliseconds() >= deadline) return "Another program keeps the file locked";
+      system_.SleepMilliseconds(kLockPauseMilliseconds);
+    }
     return std::nullopt;
   }
 
- private:
-  // Another program holds the lock only for the moments of its own save; whoever holds it longer
-  // must not hang this one. While the file grows, though, others save one record after the other
-  // and leave the lock free for moments too short to be met soon: that is no reason to give up.
-  std::optional<std::string> Lock() {
-    off_t length = 0;
-    for (int attempt = 0; attempt < kLockAttempts; ++attempt) {
-      if (system_.Flock(file_, LOCK_EX | LOCK_NB) == 0) return std::nullopt;
-      if (errno == ENOLCK || errno == EOPNOTSUPP) return std::nullopt;  // no locks on this disk
-      if (errno != EWOULDBLOCK && errno != EINTR) return LastError();
-      system_.SleepMilliseconds(kLockPauseMilliseconds);
-      const off_t before = std::exchange(length, Length());
-      if (length != before) attempt = 0;
-    }
-    return "Another program keeps the file locked";
-  }
-
-  off_t Length() {
+  tl::expected<struct stat, std::string> Status() {
     struct stat status {};
-    return system_.Fstat(file_, &status) == 0 ? status.st_size : 0;
+    if (system_.Fstat(file_, &status) != 0) return tl::unexpected(LastError());
+    if (!S_ISREG(status.st_mode)) return tl::unexpected<std::string>("Not a regular file");
+    return status;
   }
 
-  // One write, flushed to disk; a write that fails half-way leaves no fragment behind.
-  std::optional<std::string> Write(const PuzzleRecord& record, off_t length) {
+  // One write behind the last of `length` bytes, flushed to disk; a write that fails half-way
+  // leaves no fragment behind.
+  std::optional<std::string> Append(const PuzzleRecord& record, off_t length) {
     const off_t offset = RecordsIn(length) * static_cast<off_t>(sizeof record);
     const ssize_t written =
         Uninterrupted([&] { return system_.Pwrite(file_, &record, sizeof record, offset); });
@@ -92,17 +81,52 @@ class OpenFile {
     return error;
   }
 
+  // Closing may report that an earlier write did not reach the disk.
+  std::optional<std::string> Close() {
+    const int file = std::exchange(file_, -1);
+    if (system_.Close(file) != 0 && errno != EINTR) return LastError();
+    return std::nullopt;
+  }
+
+ private:
   SystemCalls& system_;
   int file_;
 };
 
+// Whether the file of this status is still what the path leads to.
+tl::expected<bool, std::string> StandsAt(const std::string& path, const struct stat& status,
+                                         SystemCalls& system) {
+  struct stat there {};
+  if (system.Stat(path.c_str(), &there) == 0) return IsSameFile(status, there);
+  if (errno == ENOENT) return false;
+  return tl::unexpected(LastError());
+}
+
 }  // namespace
 
 std::optional<std::string> AppendPuzzle(const std::string& path, const PuzzleRecord& record,
+                                        SystemCalls& system, WriteClaim& claim) {
+  const std::int64_t deadline = system.Milliseconds() + kLockPatienceMilliseconds;
+  do {
+    OpenFile file(system, path);
+    if (!file.IsOpen()) return LastError();
+    if (auto error = file.Lock(deadline)) return error;
+    const auto status = file.Status();
+    if (!status) return status.error();
+    const auto stands = StandsAt(path, *status, system);
+    if (!stands) return stands.error();
+    if (!*stands) continue;
+    if (!claim.Take()) return "Given up";
+    if (auto error = file.Append(record, status->st_size)) return error;
+    return file.Close();
+  } while (system.Milliseconds() < deadline);
+  return "Another program keeps moving the file";
+}
+
+std::optional<std::string> AppendPuzzle(const std::string& path, const PuzzleRecord& record,
                                         SystemCalls& system) {
-  OpenFile file(system, path);
-  if (auto error = file.Append(record)) return error;
-  return file.Close();
+  WriteClaim claim;
+  return AppendPuzzle(path, record, system, claim);
 }
 
 }  // namespace tessel

@@ -1,6 +1,7 @@
 // The puzzle file "Tessel_Sudoku.sds": records of 243 bytes, one after another, only ever appended.
 #pragma once
 
+#include <atomic>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -19,9 +20,24 @@ constexpr std::int64_t RecordsIn(std::int64_t length) {
   return (length + recordSize / 2) / recordSize;
 }
 
+// The right to decide what becomes of a record. A save takes it before it writes; whoever waits for
+// the save takes it to give up, and can then be sure that the record will never be written.
+class WriteClaim {
+ public:
+  // True for the first to ask.
+  bool Take() { return !taken_.exchange(true); }
+
+ private:
+  std::atomic<bool> taken_ = false;
+};
+
 // Appends the record to the file, which is created when missing, and has it on disk on return.
-// Programs that append to the same file wait for each other. Returns what went wrong, in the
-// system's words, with the file as long as it was; nothing when the record is safe.
+// Programs that append to the same file wait for each other, up to 2.9 seconds; a file that is
+// moved or deleted meanwhile is begun anew at its path. Returns what went wrong, in the system's
+// words, with the file as long as it was; nothing when the record is safe.
+[[nodiscard]] std::optional<std::string> AppendPuzzle(const std::string& path,
+                                                      const PuzzleRecord& record,
+                                                      SystemCalls& system, WriteClaim& claim);
 [[nodiscard]] std::optional<std::string> AppendPuzzle(const std::string& path,
                                                       const PuzzleRecord& record,
                                                       SystemCalls& system);

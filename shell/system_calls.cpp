@@ -5,32 +5,62 @@
 #include <unistd.h>
 
 #include <chrono>
+#include <system_error>
 #include <thread>
 
 namespace tessel {
 
-namespace {
+int PosixCalls::Open(const char* path, int flags, mode_t mode) {
+  return open(path, flags, mode);
+}
 
-class PosixCalls final : public SystemCalls {
- public:
-  int Open(const char* path, int flags, mode_t mode) override { return open(path, flags, mode); }
-  int Flock(int file, int operation) override { return flock(file, operation); }
-  int Fstat(int file, struct stat* status) override { return fstat(file, status); }
-  ssize_t Pwrite(int file, const void* bytes, std::size_t count, off_t offset) override {
-    return pwrite(file, bytes, count, offset);
-  }
-  int Ftruncate(int file, off_t length) override { return ftruncate(file, length); }
-  int Fsync(int file) override { return fsync(file); }
-  int Close(int file) override { return close(file); }
-  void SleepMilliseconds(int milliseconds) override {
-    std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
-  }
-};
+int PosixCalls::Flock(int file, int operation) {
+  return flock(file, operation);
+}
 
-}  // namespace
+int PosixCalls::Fstat(int file, struct stat* status) {
+  return fstat(file, status);
+}
+
+int PosixCalls::Stat(const char* path, struct stat* status) {
+  return stat(path, status);
+}
+
+ssize_t PosixCalls::Pwrite(int file, const void* bytes, std::size_t count, off_t offset) {
+  return pwrite(file, bytes, count, offset);
+}
+
+int PosixCalls::Ftruncate(int file, off_t length) {
+  return ftruncate(file, length);
+}
+
+int PosixCalls::Fsync(int file) {
+  return fsync(file);
+}
+
+int PosixCalls::Close(int file) {
+  return close(file);
+}
+
+void PosixCalls::SleepMilliseconds(int milliseconds) {
+  std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
+}
+
+std::int64_t PosixCalls::Milliseconds() {
+  const auto now = std::chrono::steady_clock::now().time_since_epoch();
+  return std::chrono::duration_cast<std::chrono::milliseconds>(now).count();
+}
+
+void PosixCalls::Start(std::function<void()> work) {
+  try {
+    std::thread(work).detach();
+  } catch (const std::system_error&) {
+    work();
+  }
+}
 
 SystemCalls& RealSystemCalls() {
-  static PosixCalls calls;
+  static PosixCalls& calls = *new PosixCalls;
   return calls;
 }
 

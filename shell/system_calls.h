@@ -5,10 +5,12 @@
 #include <sys/types.h>
 
 #include <cstddef>
+#include <cstdint>
+#include <functional>
 
 namespace tessel {
 
-// Each behaves as the POSIX call of its name: -1 and errno on failure.
+// The calls that POSIX knows by these names behave alike: -1 and errno on failure.
 class SystemCalls {
  public:
   virtual ~SystemCalls() = default;
@@ -16,13 +18,35 @@ class SystemCalls {
   virtual int Open(const char* path, int flags, mode_t mode) = 0;
   virtual int Flock(int file, int operation) = 0;
   virtual int Fstat(int file, struct stat* status) = 0;
+  virtual int Stat(const char* path, struct stat* status) = 0;
   virtual ssize_t Pwrite(int file, const void* bytes, std::size_t count, off_t offset) = 0;
   virtual int Ftruncate(int file, off_t length) = 0;
   virtual int Fsync(int file) = 0;
   virtual int Close(int file) = 0;
+
   virtual void SleepMilliseconds(int milliseconds) = 0;
+  // A clock that only goes forward, from an arbitrary start.
+  virtual std::int64_t Milliseconds() = 0;
+  // Runs `work` on a thread of its own that nobody waits for, or, where none can be had, at once.
+  virtual void Start(std::function<void()> work) = 0;
 };
 
+class PosixCalls : public SystemCalls {
+ public:
+  int Open(const char* path, int flags, mode_t mode) override;
+  int Flock(int file, int operation) override;
+  int Fstat(int file, struct stat* status) override;
+  int Stat(const char* path, struct stat* status) override;
+  ssize_t Pwrite(int file, const void* bytes, std::size_t count, off_t offset) override;
+  int Ftruncate(int file, off_t length) override;
+  int Fsync(int file) override;
+  int Close(int file) override;
+  void SleepMilliseconds(int milliseconds) override;
+  std::int64_t Milliseconds() override;
+  void Start(std::function<void()> work) override;
+};
+
+// Lives as long as the process, so that a thread may still use it while the process ends.
 SystemCalls& RealSystemCalls();
 
 }  // namespace tessel

@@ -92,6 +92,12 @@ void TesselWindow::PumpEvents() {
   pump_.Done();
 }
 
+void TesselWindow::PumpEventsNow() {
+  Sync();
+  QCoreApplication::processEvents();
+  pump_.Done();
+}
+
 bool TesselWindow::AskYesNo(const std::string& question, const std::string& title) {
   Sync();
   QMessageBox box(QMessageBox::Question, QString::fromStdString(title),

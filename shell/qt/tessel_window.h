@@ -29,6 +29,7 @@ class TesselWindow final : public QWidget, public View {
   void Show() override;
   std::int32_t WindowHandle() override;
   void PumpEvents() override;
+  void PumpEventsNow() override;
   bool AskYesNo(const std::string& question, const std::string& title) override;
   void Beep() override;
   void EndProgram() override;

@@ -1,4 +1,5 @@
-// The real system calls, of which a test lets chosen ones fail.
+// The real system calls, of which a test lets chosen ones fail. No time passes but what is slept,
+// and no thread is started: whatever waits for one finds it at its end.
 #pragma once
 
 #include <algorithm>
@@ -13,40 +14,54 @@
 
 namespace tessel {
 
-enum class SystemCall : std::uint8_t { kOpen, kFlock, kFstat, kPwrite, kFtruncate, kFsync, kClose };
+enum class SystemCall : std::uint8_t {
+  kOpen,
+  kFlock,
+  kFstat,
+  kStat,
+  kPwrite,
+  kFtruncate,
+  kFsync,
+  kClose
+};
 
-class FakeSystemCalls final : public SystemCalls {
+class FakeSystemCalls : public PosixCalls {
  public:
   // The next `times` calls of this kind fail with `error`.
   void Fail(SystemCall call, int error, int times = 1) { failures_[call] = {error, times}; }
 
   int Open(const char* path, int flags, mode_t mode) override {
-    return Fails(SystemCall::kOpen) ? -1 : real_.Open(path, flags, mode);
+    return Fails(SystemCall::kOpen) ? -1 : PosixCalls::Open(path, flags, mode);
   }
   int Flock(int file, int operation) override {
-    return Fails(SystemCall::kFlock) ? -1 : real_.Flock(file, operation);
+    return Fails(SystemCall::kFlock) ? -1 : PosixCalls::Flock(file, operation);
   }
   int Fstat(int file, struct stat* status) override {
-    return Fails(SystemCall::kFstat) ? -1 : real_.Fstat(file, status);
+    return Fails(SystemCall::kFstat) ? -1 : PosixCalls::Fstat(file, status);
+  }
+  int Stat(const char* path, struct stat* status) override {
+    if (onStat) onStat();
+    return Fails(SystemCall::kStat) ? -1 : PosixCalls::Stat(path, status);
   }
   ssize_t Pwrite(int file, const void* bytes, std::size_t count, off_t offset) override {
     if (Fails(SystemCall::kPwrite)) return -1;
-    return real_.Pwrite(file, bytes, std::min(count, writeAtMost), offset);
+    return PosixCalls::Pwrite(file, bytes, std::min(count, writeAtMost), offset);
   }
   int Ftruncate(int file, off_t length) override {
-    return Fails(SystemCall::kFtruncate) ? -1 : real_.Ftruncate(file, length);
+    return Fails(SystemCall::kFtruncate) ? -1 : PosixCalls::Ftruncate(file, length);
   }
-  int Fsync(int file) override { return Fails(SystemCall::kFsync) ? -1 : real_.Fsync(file); }
+  int Fsync(int file) override { return Fails(SystemCall::kFsync) ? -1 : PosixCalls::Fsync(file); }
   // The file is closed all the same, as the system does it.
   int Close(int file) override {
-    const int closed = real_.Close(file);
+    const int closed = PosixCalls::Close(file);
     return Fails(SystemCall::kClose) ? -1 : closed;
   }
-  // No time passes.
   void SleepMilliseconds(int milliseconds) override {
     sleptMilliseconds += milliseconds;
     if (onSleep) onSleep();
   }
+  std::int64_t Milliseconds() override { return sleptMilliseconds; }
+  void Start(std::function<void()> work) override { work(); }
 
   int Made(SystemCall call) const {
     return static_cast<int>(std::count(calls.begin(), calls.end(), call));
@@ -54,6 +69,7 @@ class FakeSystemCalls final : public SystemCalls {
 
   std::size_t writeAtMost = std::numeric_limits<std::size_t>::max();
   std::function<void()> onSleep;
+  std::function<void()> onStat;
   int sleptMilliseconds = 0;
   std::vector<SystemCall> calls;  // in the order made
 
@@ -72,7 +88,6 @@ class FakeSystemCalls final : public SystemCalls {
     return true;
   }
 
-  SystemCalls& real_ = RealSystemCalls();
   std::map<SystemCall, Failure> failures_;
 };
 

@@ -7,11 +7,12 @@
 #include "tests/fakes/fake_sound_player.h"
 #include "tests/fakes/recording_view.h"
 #include "tests/fakes/temporary_folder.h"
+#include "tests/fakes/unthreaded_calls.h"
 
 namespace tessel {
 
 struct TestProgram {
-  explicit TestProgram(std::uint64_t firstSeed = 1, SystemCalls& system = RealSystemCalls())
+  explicit TestProgram(std::uint64_t firstSeed = 1, SystemCalls& system = UnthreadedCalls::Shared())
       : clock(firstSeed), main(view, player, clock, random, folder.Path().string(), system) {
     main.Form_Load();
   }

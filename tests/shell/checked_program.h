@@ -14,7 +14,7 @@ enum class Stage : std::uint8_t { kLayoutNeeded, kLayoutMade, kGridFilled, kPuzz
 
 class CheckedProgram {
  public:
-  explicit CheckedProgram(std::uint64_t firstSeed, SystemCalls& system = RealSystemCalls());
+  explicit CheckedProgram(std::uint64_t firstSeed, SystemCalls& system = UnthreadedCalls::Shared());
   CheckedProgram(const CheckedProgram&) = delete;
   CheckedProgram& operator=(const CheckedProgram&) = delete;
 

@@ -59,6 +59,11 @@ TEST_F(PuzzleFileFaults, FstatFails) {
   ExpectFailure("Input/output error");
 }
 
+TEST_F(PuzzleFileFaults, StatFails) {
+  system.Fail(kStat, EACCES);
+  ExpectFailure("Permission denied");
+}
+
 TEST_F(PuzzleFileFaults, PwriteFails) {
   system.Fail(kPwrite, ENOSPC);
   ExpectFailure("No space left on device");
@@ -159,18 +164,78 @@ TEST_F(PuzzleFileFaults, AHeldLockOnAFileThatCannotBeMeasuredIsGivenUpToo) {
   close(other);
 }
 
-TEST_F(PuzzleFileFaults, ALockIsWaitedForAsLongAsOthersSaveUnderIt) {
+// Others that save one record after the other and leave the lock free for moments only.
+TEST_F(PuzzleFileFaults, AHeldLockIsGivenUpEvenWhileTheFileGrows) {
   const int other = open(Path().c_str(), O_RDWR | O_CLOEXEC);
   ASSERT_EQ(flock(other, LOCK_EX), 0);
   std::uint32_t saved = 2;
   system.onSleep = [&] {
+    ASSERT_LT(saved, 10'000u) << "waits without end";
     const PuzzleRecord record = NumberedRecord(saved);
     ASSERT_EQ(pwrite(other, &record, sizeof record, static_cast<off_t>(saved * kRecordSize)), 243);
-    if (++saved == 10'000) flock(other, LOCK_UN);
+    ++saved;
   };
-  AppendWell(saved);
-  EXPECT_EQ(RecordsOf(Path()).size(), 10'001u);
+  EXPECT_EQ(Append(3), "Another program keeps the file locked");
+  EXPECT_LE(system.sleptMilliseconds, 3'000);
+  EXPECT_EQ(RecordsOf(Path()).size(), saved);
   close(other);
+}
+
+// The file is locked by another program, which does `away` with it before it lets go.
+class FileVanishesFromUnderAWaitingSave : public PuzzleFileFaults {
+ protected:
+  void SaveWhile(const std::function<void()>& away) {
+    const int other = open(Path().c_str(), O_RDWR | O_CLOEXEC);
+    ASSERT_EQ(flock(other, LOCK_EX), 0);
+    system.onSleep = [&] {
+      if (system.sleptMilliseconds != 20) return;
+      away();
+      flock(other, LOCK_UN);
+    };
+    AppendWell(3);
+    close(other);
+  }
+  std::filesystem::path Elsewhere() const { return folder.Path() / "elsewhere"; }
+};
+
+TEST_F(FileVanishesFromUnderAWaitingSave, ADeletedFileIsBegunAnew) {
+  SaveWhile([this] { std::filesystem::remove(Path()); });
+  EXPECT_EQ(Contents(), BytesOf(NumberedRecord(3)));
+}
+
+TEST_F(FileVanishesFromUnderAWaitingSave, AMovedFileIsLeftAsItIs) {
+  const std::string before = Contents();
+  SaveWhile([this] { std::filesystem::rename(Path(), Elsewhere()); });
+  EXPECT_EQ(ReadFile(Elsewhere()), before);
+  EXPECT_EQ(Contents(), BytesOf(NumberedRecord(3)));
+}
+
+TEST_F(FileVanishesFromUnderAWaitingSave, TheRecordGoesToTheFileThatTookItsPlace) {
+  const std::string other = BytesOf(NumberedRecord(7));
+  SaveWhile([&] {
+    WriteFile(Elsewhere(), other);
+    std::filesystem::rename(Elsewhere(), Path());
+  });
+  EXPECT_EQ(Contents(), other + BytesOf(NumberedRecord(3)));
+}
+
+TEST_F(PuzzleFileFaults, AFileThatIsMovedAgainAndAgainIsGivenUp) {
+  system.onStat = [this] {
+    system.sleptMilliseconds += 100;
+    std::filesystem::remove(Path());
+  };
+  EXPECT_EQ(Append(3), "Another program keeps moving the file");
+  EXPECT_LE(system.sleptMilliseconds, 3'000);
+  EXPECT_EQ(system.Made(kPwrite), 0);
+  EXPECT_EQ(system.Made(kOpen), system.Made(kClose));
+}
+
+TEST_F(PuzzleFileFaults, ARecordThatWasGivenUpIsNotWritten) {
+  WriteClaim claim;
+  ASSERT_TRUE(claim.Take());
+  EXPECT_NE(AppendPuzzle(Path().string(), NumberedRecord(3), system, claim), std::nullopt);
+  EXPECT_EQ(system.Made(kPwrite), 0);
+  EXPECT_EQ(RecordsOf(Path()).size(), 2u);
 }
 
 TEST_F(PuzzleFileFaults, TheLockIsReleasedAfterASave) {

@@ -82,7 +82,8 @@ TEST_F(PuzzleFile, CountsRecordsToTheNearest) {
 TEST_F(PuzzleFile, IsLockedMeasuredWrittenOnceAndFlushed) {
   using enum SystemCall;
   AppendWell(1);
-  EXPECT_THAT(system.calls, testing::ElementsAre(kOpen, kFlock, kFstat, kPwrite, kFsync, kClose));
+  EXPECT_THAT(system.calls,
+              testing::ElementsAre(kOpen, kFlock, kFstat, kStat, kPwrite, kFsync, kClose));
 }
 
 TEST_F(PuzzleFile, ANewFileIsReadableByAllAndWritableByItsOwner) {
