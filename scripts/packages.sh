@@ -1,6 +1,8 @@
 # The Debian 12 packages that the project needs, and their installation. To be sourced.
 
-build_packages=(g++ cmake ninja-build libexpected-dev qt6-base-dev qt6-multimedia-dev)
+# Of the command-line program, and of both programs.
+tool_packages=(g++ cmake ninja-build libexpected-dev libcli11-dev nlohmann-json3-dev)
+build_packages=("${tool_packages[@]}" qt6-base-dev qt6-multimedia-dev)
 check_packages=(libgmock-dev clang-format-14 clang-tidy-14 xvfb openbox xdotool x11-utils pulseaudio pulseaudio-utils)
 
 missing_packages() {

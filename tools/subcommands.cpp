@@ -1,0 +1,20 @@
+#include <array>
+
+#include "tools/subcommand.h"
+
+namespace tessel::tools {
+
+namespace {
+
+constexpr std::array kSubcommands{
+    Subcommand{"formats", "List the formats that puzzles are read from and written in",
+               DeclareFormats},
+};
+
+}  // namespace
+
+std::span<const Subcommand> AllSubcommands() {
+  return kSubcommands;
+}
+
+}  // namespace tessel::tools
