@@ -33,7 +33,7 @@ fortified=$(grep -E -B3 "$logic" "$compile_commands" | grep -cE 'D_FORTIFY_SOURC
 
 # forbid PATTERN WHY [EXCEPTION]: no line of the sources holds PATTERN, but those in EXCEPTION.
 forbid() {
-  if grep -rnE --include='*.h' --include='*.cpp' "$1" core layout search hints shell |
+  if grep -rnE --include='*.h' --include='*.cpp' "$1" core layout search solver hints shell |
     grep -vE "^(${3:-none}):"; then
     fail "^ $2"
   fi

@@ -1,0 +1,109 @@
+// Questions about a puzzle whose solution is known: may this given go?
+#pragma once
+
+#include "solver/search.h"
+
+namespace tessel::solver {
+
+template <typename Lanes>
+void Clear(const Tables& tables, Level& level) {
+  const Lanes everywhere = Lanes::Load(tables.everywhere);
+  everywhere.Store(level.open);
+  for (int digit = 0; digit < kDigits; ++digit) {
+    everywhere.Store(level.places[digit]);
+    level.done[digit] = 0;
+  }
+}
+
+template <typename Lanes>
+bool Place(const Tables& tables, Level& level, int cell, int digit) {
+  const int row = RowOf(cell);
+  const unsigned places = level.places[digit].lane[row] & level.open.lane[row];
+  if ((places >> ColumnOf(cell) & 1U) == 0) return false;
+  Fill<Lanes>(tables, level, cell, digit);
+  return true;
+}
+
+template <typename Lanes>
+void PutBack(const Tables& tables, Givens& givens, int cell) {
+  const int digit = givens.digitAt[cell];
+  givens.cellsOf[digit][givens.sizes[digit]++] = static_cast<std::uint8_t>(cell);
+  Fill<Lanes>(tables, givens.level, cell, digit);
+}
+
+template <typename Lanes>
+void Give(const Tables& tables, const std::uint8_t* solution, Givens& givens) {
+  Clear<Lanes>(tables, givens.level);
+  for (std::uint8_t& size : givens.sizes) size = 0;
+  for (int cell = 0; cell < kCellCount; ++cell) {
+    givens.digitAt[cell] = static_cast<std::uint8_t>(solution[cell] - 1);
+    PutBack<Lanes>(tables, givens, cell);
+  }
+}
+
+// Where the digit of `cell` may stand beside its other givens.
+template <typename Lanes>
+Lanes PlacesWithout(const Tables& tables, const Givens& givens, int cell) {
+  const int digit = givens.digitAt[cell];
+  Lanes places = Lanes::Load(tables.everywhere);
+  for (int i = 0; i < givens.sizes[digit]; ++i) {
+    const int other = givens.cellsOf[digit][i];
+    if (other != cell) places = places - Lanes::Load(tables.withPeers[other]);
+  }
+  return places;
+}
+
+template <typename Lanes>
+void Take(const Tables& tables, Givens& givens, int cell) {
+  const int digit = givens.digitAt[cell];
+  Level& level = givens.level;
+  PlacesWithout<Lanes>(tables, givens, cell).Store(level.places[digit]);
+  (Lanes::Load(level.open) | Lanes::Load(tables.only[cell])).Store(level.open);
+  level.done[digit] &= ~tables.housesOf[cell];
+  std::uint8_t* const cells = givens.cellsOf[digit];
+  const int last = --givens.sizes[digit];
+  for (int i = 0; i < last; ++i) {
+    if (cells[i] == cell) cells[i] = cells[last];
+  }
+}
+
+inline bool AdmitsOtherDigit(const Givens& givens, int cell) {
+  unsigned others = 0;
+  for (int digit = 0; digit < kDigits; ++digit) {
+    others |= digit == givens.digitAt[cell] ? 0U : givens.level.places[digit].lane[RowOf(cell)];
+  }
+  return (others >> ColumnOf(cell) & 1U) != 0;
+}
+
+// Two looks settle most questions: no other digit fits the cell, or one of its houses has no other
+// place for its own digit. For the rest, the digit is forbidden there and a completion searched.
+template <typename Lanes>
+bool HasOther(const Tables& tables, Workspace& work, const Givens& givens, int cell) {
+  if (!AdmitsOtherDigit(givens, cell)) return false;
+  const int digit = givens.digitAt[cell];
+  const Lanes itself = Lanes::Load(tables.only[cell]);
+  const Lanes open = Lanes::Load(givens.level.open) | itself;
+  const Lanes places = PlacesWithout<Lanes>(tables, givens, cell) & open;
+  if ((places.AtMostOne() & tables.housesOf[cell]) != 0) return false;
+  Level& level = work.levels[0];
+  CopyLevel<Lanes>(givens.level, level);
+  (places - itself).Store(level.places[digit]);
+  open.Store(level.open);
+  level.done[digit] &= ~tables.housesOf[cell];
+  return Search<Lanes>(tables, work, Request{}).Run().solutions != 0;
+}
+
+template <typename Lanes>
+constexpr Kernel KernelOf() {
+  return {Clear<Lanes>,
+          Place<Lanes>,
+          [](const Tables& tables, Workspace& work, const Request& request) {
+            return Search<Lanes>(tables, work, request).Run();
+          },
+          Give<Lanes>,
+          HasOther<Lanes>,
+          Take<Lanes>,
+          PutBack<Lanes>};
+}
+
+}  // namespace tessel::solver

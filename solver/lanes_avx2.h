@@ -1,0 +1,79 @@
+// 32 lanes of 16 bits in two parts of 32 bytes. To be compiled with -mavx2.
+#pragma once
+
+#ifdef __AVX2__
+#include <immintrin.h>
+
+#include "solver/places.h"
+
+namespace tessel::solver {
+
+class Avx2Lanes {
+ public:
+  static Avx2Lanes Load(const std::uint16_t* lanes) {
+    const auto* const parts = reinterpret_cast<const __m256i*>(lanes);
+    return {_mm256_load_si256(parts), _mm256_load_si256(parts + 1)};
+  }
+  static Avx2Lanes Load(const Places& places) { return Load(places.lane); }
+  void Store(Places& places) const {
+    auto* const parts = reinterpret_cast<__m256i*>(places.lane);
+    _mm256_store_si256(parts, low_);
+    _mm256_store_si256(parts + 1, high_);
+  }
+
+  friend Avx2Lanes operator&(Avx2Lanes a, Avx2Lanes b) {
+    return {_mm256_and_si256(a.low_, b.low_), _mm256_and_si256(a.high_, b.high_)};
+  }
+  friend Avx2Lanes operator|(Avx2Lanes a, Avx2Lanes b) {
+    return {_mm256_or_si256(a.low_, b.low_), _mm256_or_si256(a.high_, b.high_)};
+  }
+  friend Avx2Lanes operator-(Avx2Lanes a, Avx2Lanes b) {
+    return {_mm256_andnot_si256(b.low_, a.low_), _mm256_andnot_si256(b.high_, a.high_)};
+  }
+  // Lane i of the result is lane from[i] of these lanes.
+  Avx2Lanes At(Avx2Lanes from) const { return {Part(from.low_), Part(from.high_)}; }
+
+  // The lanes without a bit, bit i standing for lane i.
+  std::uint32_t Empty() const {
+    const __m256i zero = _mm256_setzero_si256();
+    return MaskOf(_mm256_cmpeq_epi16(low_, zero), _mm256_cmpeq_epi16(high_, zero));
+  }
+  // The lanes with one bit at most.
+  std::uint32_t AtMostOne() const {
+    const __m256i ones = _mm256_set1_epi16(-1);
+    const Avx2Lanes less{_mm256_add_epi16(low_, ones), _mm256_add_epi16(high_, ones)};
+    return (*this & less).Empty();
+  }
+
+ private:
+  Avx2Lanes(__m256i low, __m256i high) : low_(low), high_(high) {}
+
+  // Packing takes the halves of both parts in turns, which the permutation undoes.
+  static std::uint32_t MaskOf(__m256i low, __m256i high) {
+    const __m256i packed = _mm256_permute4x64_epi64(_mm256_packs_epi16(low, high), 0xD8);
+    return static_cast<std::uint32_t>(_mm256_movemask_epi8(packed));
+  }
+
+  // Shuffles reach 16 bytes, so each quarter of the lanes is asked for what it has: a byte number
+  // outside 0..15 is made one above 127, for which a shuffle gives 0.
+  __m256i Part(__m256i from) const {
+    const __m256i bytes = _mm256_add_epi8(_mm256_mullo_epi16(from, _mm256_set1_epi16(0x202)),
+                                          _mm256_set1_epi16(0x100));
+    const auto quarter = [&](__m256i part, int half, int first) {
+      const __m256i twice =
+          half == 0 ? _mm256_permute4x64_epi64(part, 0x44) : _mm256_permute4x64_epi64(part, 0xEE);
+      const __m256i inside =
+          _mm256_adds_epu8(_mm256_sub_epi8(bytes, _mm256_set1_epi8(static_cast<char>(first))),
+                           _mm256_set1_epi8(0x70));
+      return _mm256_shuffle_epi8(twice, inside);
+    };
+    return _mm256_or_si256(_mm256_or_si256(quarter(low_, 0, 0), quarter(low_, 1, 16)),
+                           _mm256_or_si256(quarter(high_, 0, 32), quarter(high_, 1, 48)));
+  }
+
+  __m256i low_;
+  __m256i high_;
+};
+
+}  // namespace tessel::solver
+#endif

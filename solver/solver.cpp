@@ -1,0 +1,119 @@
+#include "solver/solver.h"
+
+#include <algorithm>
+#include <numeric>
+
+#include "solver/kernel.h"
+
+namespace tessel::solver {
+
+namespace {
+
+// An attempt at a filling is given up after this many nodes, and another begins in another house.
+// When every house has had its turn, attempts become longer.
+constexpr std::uint64_t kFirstPatience = 50;
+constexpr std::uint64_t kMorePatience = 4;
+
+std::array<std::uint8_t, kSide> DrawDigits(RandomStream& random) {
+  std::array<std::uint8_t, kSide> digits;
+  std::iota(digits.begin(), digits.end(), std::uint8_t{1});
+  for (std::uint32_t left = kSide; left > 1; --left) {
+    std::swap(digits[left - 1], digits[random.Below(left)]);
+  }
+  return digits;
+}
+
+std::array<std::uint8_t, kHouseCount> DrawHouses(RandomStream& random) {
+  std::array<std::uint8_t, kHouseCount> houses;
+  std::iota(houses.begin(), houses.end(), std::uint8_t{0});
+  for (std::uint32_t left = kHouseCount; left > 1; --left) {
+    std::swap(houses[left - 1], houses[random.Below(left)]);
+  }
+  return houses;
+}
+
+Grid GridOf(const std::uint8_t (&digits)[kCellCount]) {
+  Grid grid;
+  std::ranges::copy(digits, grid.begin());
+  return grid;
+}
+
+}  // namespace
+
+Solver::Solver(const Layout& layout, Path path)
+    : kernel_(&KernelOf(path)),
+      layout_(layout),
+      tables_(std::make_unique<Tables>(layout)),
+      work_(std::make_unique<Workspace>()),
+      givens_(std::make_unique<Givens>()) {}
+
+Solver::~Solver() = default;
+Solver::Solver(Solver&&) noexcept = default;
+Solver& Solver::operator=(Solver&&) noexcept = default;
+
+void Solver::Use(const Layout& layout) {
+  layout_ = layout;
+  *tables_ = Tables(layout);
+}
+
+std::vector<Grid> Solver::Completions(const Grid& givens, int most) {
+  Level& level = work_->levels[0];
+  kernel_->clear(*tables_, level);
+  std::vector<Grid> completions;
+  for (int cell = 0; cell < kCellCount; ++cell) {
+    const int given = givens[cell];
+    if (given == 0) continue;
+    if (given > kSide || !kernel_->place(*tables_, level, cell, given - 1)) return completions;
+    work_->digits[cell] = givens[cell];
+  }
+  Request request;
+  request.solutions = most;
+  const Result result = kernel_->search(*tables_, *work_, request);
+  for (int i = 0; i < result.solutions; ++i) completions.push_back(GridOf(work_->found[i]));
+  return completions;
+}
+
+Filling Solver::FillWithin(std::uint64_t mostNodes) {
+  RandomStream random(0);
+  return Fill(random, mostNodes);
+}
+
+Filling Solver::Fill(RandomStream& random, std::uint64_t mostNodes) {
+  const auto digits = DrawDigits(random);
+  const auto houses = DrawHouses(random);
+  std::uint64_t nodes = 0;
+  Request request;
+  request.random = &random;
+  for (std::uint64_t patience = kFirstPatience;; patience *= kMorePatience) {
+    for (const int house : houses) {
+      Level& level = work_->levels[0];
+      kernel_->clear(*tables_, level);
+      for (int i = 0; i < kSide; ++i) {
+        const int cell = tables_->cellAt[house][i];
+        kernel_->place(*tables_, level, cell, digits[i] - 1);
+        work_->digits[cell] = digits[i];
+      }
+      request.nodes = std::min(patience, mostNodes - nodes);
+      const Result result = kernel_->search(*tables_, *work_, request);
+      nodes += result.nodes;
+      if (result.solutions != 0) return {Answer::kYes, GridOf(work_->found[0]), nodes};
+      if (result.complete) return {Answer::kNo, {}, nodes};
+      if (nodes == mostNodes) return {Answer::kUnknown, {}, nodes};
+    }
+  }
+}
+
+void Solver::GiveAll(const Grid& solution) {
+  kernel_->give(*tables_, solution.data(), *givens_);
+}
+bool Solver::HasOtherCompletion(int cell) const {
+  return kernel_->hasOther(*tables_, *work_, *givens_, cell);
+}
+void Solver::TakeOut(int cell) {
+  kernel_->take(*tables_, *givens_, cell);
+}
+void Solver::PutBack(int cell) {
+  kernel_->putBack(*tables_, *givens_, cell);
+}
+
+}  // namespace tessel::solver

@@ -1,0 +1,73 @@
+// The fast engine: exact answers about any layout and any givens, for all that nobody watches.
+// docs/solver.md tells how it works.
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "core/board.h"
+#include "core/layout.h"
+#include "core/random_stream.h"
+#include "solver/path.h"
+
+namespace tessel::solver {
+
+struct Tables;
+struct Workspace;
+struct Givens;
+struct Kernel;
+
+// Whether a layout has a filling. kUnknown: not found out within the nodes allowed.
+enum class Answer : std::uint8_t { kYes, kNo, kUnknown };
+
+struct Filling {
+  Answer answer = Answer::kUnknown;
+  Grid grid{};              // complete for kYes, empty otherwise
+  std::uint64_t nodes = 0;  // that were tried
+};
+
+// Answers questions about one layout at a time; not to be shared by threads. Takes about 75 KB,
+// which go on being used when a layout follows another. Answers depend on the arguments alone: not
+// on the machine, nor on what was asked before.
+class Solver {
+ public:
+  explicit Solver(const Layout& layout, Path path = BestPath());
+  ~Solver();
+  Solver(Solver&&) noexcept;
+  Solver& operator=(Solver&&) noexcept;
+
+  // The layout that all later questions are about.
+  void Use(const Layout& layout);
+
+  // The completions of the givens, two at most. Any numbers are allowed: clashing givens and
+  // numbers above 9 have no completion.
+  std::vector<Grid> Completions(const Grid& givens, int most = 2);
+  bool HasUniqueCompletion(const Grid& givens) { return Completions(givens).size() == 1; }
+
+  // A filling of the empty layout, drawn from the stream, unless more than `mostNodes` nodes would
+  // be tried. Every filling can come out; docs/decisions tells how evenly they do.
+  Filling Fill(RandomStream& random, std::uint64_t mostNodes);
+  // Fill with a stream of its own: whether the layout can be filled.
+  Filling FillWithin(std::uint64_t mostNodes);
+
+  // Makes all digits of a complete solution of the layout givens. The next three work on them.
+  void GiveAll(const Grid& solution);
+  // Whether the givens without that of `cell` have a completion with another digit there. Where
+  // they have none, taking it out leaves the solution as unique as it was.
+  bool HasOtherCompletion(int cell) const;
+  void TakeOut(int cell);
+  // Undoes TakeOut.
+  void PutBack(int cell);
+
+ private:
+  Filling Attempt(RandomStream& random, std::uint64_t mostNodes);
+
+  const Kernel* kernel_;
+  Layout layout_;
+  std::unique_ptr<Tables> tables_;
+  std::unique_ptr<Workspace> work_;
+  std::unique_ptr<Givens> givens_;
+};
+
+}  // namespace tessel::solver
