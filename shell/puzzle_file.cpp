@@ -14,7 +14,10 @@ namespace {
 
 constexpr mode_t kNewFileMode = 0644;
 constexpr std::int64_t kLockPatienceMilliseconds = 2'900;
-constexpr int kLockPauseMilliseconds = 1;
+// Of programs that save one record after the other the lock is free for some hundredths of a
+// millisecond at a time; with pauses of 1 ms, one save in some 14,000 met none of these in its
+// time.
+constexpr std::chrono::microseconds kLockPause{200};
 
 std::string LastError() {
   return std::generic_category().message(errno);
@@ -55,7 +58,7 @@ class OpenFile {
       if (errno == ENOLCK || errno == EOPNOTSUPP) return std::nullopt;  // no locks on this disk
       if (errno != EWOULDBLOCK && errno != EINTR) return LastError();
       if (system_.Milliseconds() >= deadline) return "Another program keeps the file locked";
-      system_.SleepMilliseconds(kLockPauseMilliseconds);
+      system_.Sleep(kLockPause);
     }
     return std::nullopt;
   }

@@ -4,7 +4,6 @@
 #include <sys/file.h>
 #include <unistd.h>
 
-#include <chrono>
 #include <system_error>
 #include <thread>
 
@@ -42,8 +41,8 @@ int PosixCalls::Close(int file) {
   return close(file);
 }
 
-void PosixCalls::SleepMilliseconds(int milliseconds) {
-  std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
+void PosixCalls::Sleep(std::chrono::microseconds time) {
+  std::this_thread::sleep_for(time);
 }
 
 std::int64_t PosixCalls::Milliseconds() {

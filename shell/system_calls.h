@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <sys/types.h>
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -24,7 +25,7 @@ class SystemCalls {
   virtual int Fsync(int file) = 0;
   virtual int Close(int file) = 0;
 
-  virtual void SleepMilliseconds(int milliseconds) = 0;
+  virtual void Sleep(std::chrono::microseconds time) = 0;
   // A clock that only goes forward, from an arbitrary start.
   virtual std::int64_t Milliseconds() = 0;
   // Runs `work` on a thread of its own that nobody waits for, or, where none can be had, at once.
@@ -41,7 +42,7 @@ class PosixCalls : public SystemCalls {
   int Ftruncate(int file, off_t length) override;
   int Fsync(int file) override;
   int Close(int file) override;
-  void SleepMilliseconds(int milliseconds) override;
+  void Sleep(std::chrono::microseconds time) override;
   std::int64_t Milliseconds() override;
   void Start(std::function<void()> work) override;
 };

@@ -56,11 +56,11 @@ class FakeSystemCalls : public PosixCalls {
     const int closed = PosixCalls::Close(file);
     return Fails(SystemCall::kClose) ? -1 : closed;
   }
-  void SleepMilliseconds(int milliseconds) override {
-    sleptMilliseconds += milliseconds;
+  void Sleep(std::chrono::microseconds time) override {
+    slept += time;
     if (onSleep) onSleep();
   }
-  std::int64_t Milliseconds() override { return sleptMilliseconds; }
+  std::int64_t Milliseconds() override { return slept / std::chrono::milliseconds(1); }
   void Start(std::function<void()> work) override { work(); }
 
   int Made(SystemCall call) const {
@@ -70,7 +70,7 @@ class FakeSystemCalls : public PosixCalls {
   std::size_t writeAtMost = std::numeric_limits<std::size_t>::max();
   std::function<void()> onSleep;
   std::function<void()> onStat;
-  int sleptMilliseconds = 0;
+  std::chrono::microseconds slept{0};
   std::vector<SystemCall> calls;  // in the order made
 
  private:

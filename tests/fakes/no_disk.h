@@ -21,7 +21,7 @@ class NoDisk final : public SystemCalls {
   int Ftruncate(int, off_t) override { return 0; }
   int Fsync(int) override { return 0; }
   int Close(int) override { return 0; }
-  void SleepMilliseconds(int) override {}
+  void Sleep(std::chrono::microseconds) override {}
   std::int64_t Milliseconds() override { return 0; }
   void Start(std::function<void()> work) override { work(); }
 };
