@@ -1,0 +1,32 @@
+// The bits of a mask, of digits, places or lines.
+#pragma once
+
+#include <bit>
+#include <cstdint>
+
+#include "core/cell.h"
+
+namespace tessel {
+
+constexpr bool IsSingle(Mask mask) {
+  return mask != 0 && (mask & (mask - 1)) == 0;
+}
+constexpr int CountOf(Mask mask) {
+  return std::popcount(static_cast<unsigned>(mask));
+}
+// The mask must not be empty.
+constexpr int LowestBit(Mask mask) {
+  return std::countr_zero(static_cast<unsigned>(mask));
+}
+
+// Calls `visit` with the number of each set bit, from the lowest.
+template <typename Visit>
+constexpr void ForEachBit(std::uint32_t bits, const Visit& visit) {
+  for (; bits != 0; bits &= bits - 1) visit(std::countr_zero(bits));
+}
+template <typename Visit>
+constexpr void ForEachBit(Mask mask, const Visit& visit) {
+  ForEachBit(static_cast<std::uint32_t>(mask), visit);
+}
+
+}  // namespace tessel

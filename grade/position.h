@@ -1,0 +1,26 @@
+// Where a solver stands: the digits written so far and what each open cell can still hold.
+#pragma once
+
+#include "core/board.h"
+#include "core/layout.h"
+
+namespace tessel {
+
+struct Position {
+  Grid board{};            // 0 for an open cell
+  MaskBoard candidates{};  // 0 for a filled cell
+
+  bool Solved() const;
+
+  friend bool operator==(const Position&, const Position&) = default;
+};
+
+// The givens, and in each open cell the digits that none of its peers holds.
+Position StartOf(const Layout& layout, const Grid& givens);
+
+// The cells that have `digit`, 1..9, as a candidate.
+CellSet CandidatesOf(const Position& position, int digit);
+// And those where it is written.
+CellSet PlacesOf(const Position& position, int digit);
+
+}  // namespace tessel

@@ -1,0 +1,56 @@
+#include "grade/steps.h"
+
+#include "grade/step_searches.h"
+
+namespace tessel {
+
+Steps StepsOf(StepKind kind, const Layout& layout, const Position& position) {
+  switch (kind) {
+    case StepKind::kNakedSingle:
+      return NakedSingleSteps(layout, position);
+    case StepKind::kHiddenSingle:
+      return HiddenSingleSteps(layout, position);
+    case StepKind::kPointing:
+      return PointingSteps(layout, position);
+    case StepKind::kClaiming:
+      return ClaimingSteps(layout, position);
+    case StepKind::kNakedPair:
+    case StepKind::kHiddenPair:
+    case StepKind::kNakedTriple:
+    case StepKind::kHiddenTriple:
+    case StepKind::kNakedQuad:
+      return SetSteps(kind, layout, position);
+    case StepKind::kTwoLineLeftovers:
+      return LeftoverSteps(2, layout, position);
+    case StepKind::kThreeLineLeftovers:
+      return LeftoverSteps(3, layout, position);
+    case StepKind::kFourLineLeftovers:
+      return LeftoverSteps(4, layout, position);
+    case StepKind::kXWing:
+      return FishSteps(2, layout, position);
+    case StepKind::kSwordFish:
+      return FishSteps(3, layout, position);
+  }
+  return {};
+}
+
+std::vector<Removal> RemovalsOf(const Position& position, CellSet cells, Mask digits) {
+  std::vector<Removal> removals;
+  ForEach(cells, [&](int cell) {
+    const auto removed = static_cast<Mask>(position.candidates[cell] & digits);
+    if (removed != 0) removals.push_back({cell, removed});
+  });
+  return removals;
+}
+
+CellSet CellsOf(const House& house) {
+  CellSet cells;
+  for (const int cell : house.cells) cells = cells | CellSet::Of(cell);
+  return cells;
+}
+
+HouseName HouseNameOf(const House& house) {
+  return {house.kind, house.index};
+}
+
+}  // namespace tessel
