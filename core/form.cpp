@@ -60,6 +60,9 @@ void Form::SetMarkBold(int cell, int digit, bool bold) {
 void Form::SetMarksVisible(int cell, bool visible) {
   for (int digit = 1; digit <= kSide; ++digit) SetMarkVisible(cell, digit, visible);
 }
+void Form::ShowMarks(int cell, Mask digits) {
+  for (int digit = 1; digit <= kSide; ++digit) SetMarkVisible(cell, digit, Holds(digits, digit));
+}
 void Form::SetMarksColour(int cell, Rgb colour) {
   for (int digit = 1; digit <= kSide; ++digit) SetMarkColour(cell, digit, colour);
 }

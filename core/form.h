@@ -86,6 +86,8 @@ class Form {
   void SetMarkColour(int cell, int digit, Rgb colour);
   void SetMarkBold(int cell, int digit, bool bold);
   void SetMarksVisible(int cell, bool visible);
+  // Shows the marks of these digits and hides the others.
+  void ShowMarks(int cell, Mask digits);
   void SetMarksColour(int cell, Rgb colour);
 
   Rgb LabelRow(int row) const { return rowCaptions_[row]; }

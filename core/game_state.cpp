@@ -1,5 +1,7 @@
 #include "core/game_state.h"
 
+#include <algorithm>
+
 namespace tessel {
 
 namespace {
@@ -50,6 +52,13 @@ std::span<const std::int16_t> CageAround(const GameState& state, int cell) {
   const int cage = state.CageOfCell[cell];
   if (cage < 1 || cage > kSide) return {};
   return state.CageCells[cage - 1];
+}
+
+Layout LayoutOf(const GameState& state) {
+  CageNumbers cages{};
+  std::ranges::transform(state.CageOfCell, cages.begin(),
+                         [](std::int16_t cage) { return static_cast<std::uint8_t>(cage); });
+  return Layout::FromCages(cages, Layout::Shape::kAny).value();
 }
 
 Houses HousesOf(const GameState& state) {

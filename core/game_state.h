@@ -11,6 +11,8 @@
 #include "core/board.h"
 #include "core/colour.h"
 #include "core/houses.h"
+#include "core/layout.h"
+#include "core/position.h"
 #include "core/puzzle_record.h"
 #include "core/stopwatch.h"
 
@@ -18,12 +20,6 @@ namespace tessel {
 
 // A boolean held in a 16-bit field.
 enum class Bool16 : std::int16_t { False = 0, True = -1 };
-
-// How the pencil marks of the solving mode are kept.
-enum class MarkMode : std::int16_t {
-  kNotUpdated = 1,  // "Update Pencilmarks" unticked: every mark of an empty cell is shown
-  kAutomatic = 2,   // ticked: an empty cell shows its candidates
-};
 
 // What a hint has found; `None` only until the first find.
 enum class HintCode : std::int16_t {
@@ -47,7 +43,8 @@ enum class HintCode : std::int16_t {
   SwordFishColumns = 17,
 };
 
-struct GameState {
+// The solving game's fields are those of its Position.
+struct GameState : Position {
   std::string ProgramPath;  // the program's folder, always ending in the platform's separator
 
   // Tables, filled at start-up.
@@ -62,11 +59,6 @@ struct GameState {
   CellDigits WorkGrid{};  // the working board of generation
   CellDigits Puzzle{};    // the finished puzzle's givens
   PuzzleRecord SavedPuzzle;
-  PuzzleRecord PlayBoard;  // the solving mode's copy, with the player's digits
-
-  MaskBoard Candidates{};
-  MaskBoard CandidatesBeforeEntry{};  // a cell's mask when the player placed a digit in it
-  MarkMode PencilmarkMode = MarkMode::kAutomatic;
   bool Finished =
       false;  // kept up to date, read by nothing: CommandSolution's enabled state decides
 
@@ -105,6 +97,9 @@ void RebuildCageCells(GameState& state);
 
 // The cells of the cage that `cell` lies in; none while the cell is in no cage.
 std::span<const std::int16_t> CageAround(const GameState& state, int cell);
+
+// The layout as a value; it must be complete.
+Layout LayoutOf(const GameState& state);
 
 // The houses of a complete layout.
 Houses HousesOf(const GameState& state);

@@ -53,9 +53,8 @@ class Session {
   }
 
   void ClickMark(MouseButton button, int cellAndDigit) {
-    const int digit = input_.Draw(kSide);
-    program_.MouseUp(cellAndDigit % kCellCount, button, kMarkUnits * (digit % 3 + 0.5),
-                     kMarkUnits * (digit / 3 + 0.5));
+    const CellPosition at = MarkCentre(1 + input_.Draw(kSide));
+    program_.MouseUp(cellAndDigit % kCellCount, button, at.x, at.y);
   }
   void ClickSolution() { PlaceRightDigit(input_.Draw(kCellCount)); }
   void FillBoard() {
@@ -65,9 +64,9 @@ class Session {
     }
   }
   void PlaceRightDigit(int cell) {
-    const int digit = program_.State().PlayBoard.Solution[cell] + 8;
-    program_.MouseUp(cell, MouseButton::kLeft, kMarkUnits * (digit % 3 + 0.5),
-                     kMarkUnits * (digit % 9 / 3 + 0.5));
+    const int digit = program_.State().PlayBoard.Solution[cell];  // 0 before the first puzzle
+    const CellPosition at = MarkCentre(digit == 0 ? kSide : digit);
+    program_.MouseUp(cell, MouseButton::kLeft, at.x, at.y);
   }
 
   void ActInsidePump(long pump) {

@@ -18,6 +18,7 @@ Tessel_Main::Tessel_Main(View& view, SoundPlayer& player, Clock& clock, RandomSo
       programFolder_(std::move(programFolder)),
       form_(view),
       sounds_(state_, player),
+      solving_(state_, form_, sounds_),
       search_(state_, view) {}
 
 void Tessel_Main::Form_Load() {
@@ -45,7 +46,7 @@ void Tessel_Main::Click(Button button) {
     case Button::CommandConceal:
       return CommandConceal_Click();
     case Button::CommandSolve:
-      return CommandSolve_Click();
+      return solving_.CommandSolve_Click();
     case Button::CommandExit:
       return CommandExit_Click();
     case Button::Command1:
@@ -55,16 +56,21 @@ void Tessel_Main::Click(Button button) {
     case Button::CommandQuit:
       return CommandQuit_Click();
     case Button::CommandRestart:
-      return CommandRestart_Click();
+      return solving_.CommandRestart_Click();
     case Button::CommandSolution:
-      return CommandSolution_Click();
+      return solving_.CommandSolution_Click();
   }
 }
 
 void Tessel_Main::Toggle(CheckBox box) {
   if (!Answers(box)) return;
   form_.SetChecked(box, !form_.Checked(box));
-  if (box == CheckBox::CheckPencilmarks) CheckPencilmarks_Click();
+  if (box == CheckBox::CheckPencilmarks) solving_.CheckPencilmarks_Click();
+}
+
+void Tessel_Main::Grid_MouseUp(int cell, MouseButton button, int /*shift*/, double x, double y) {
+  if (running_ || asking_ || cell < 0 || cell >= kCellCount) return;
+  solving_.Grid_MouseUp(cell, button, {x, y});
 }
 
 bool Tessel_Main::Answers(Button button) const {
@@ -78,6 +84,10 @@ bool Tessel_Main::Answers(CheckBox box) const {
 
 bool Tessel_Main::SolveButtonsAnswer() const {
   return form_.SolveButtonsVisible() && form_.SolveButtonsEnabled();
+}
+
+void Tessel_Main::CommandQuit_Click() {
+  if (Ask(texts::kQuitSolving, texts::kSolver)) solving_.Leave();
 }
 
 void Tessel_Main::CommandExit_Click() {

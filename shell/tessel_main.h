@@ -4,21 +4,16 @@
 
 #include <string>
 
+#include "core/cell_click.h"
 #include "core/form.h"
 #include "core/game_state.h"
 #include "core/random_source.h"
 #include "core/sounds.h"
 #include "search/exact_cover_search.h"
+#include "shell/solving_mode.h"
 #include "shell/system_calls.h"
 
 namespace tessel {
-
-enum class MouseButton : std::int16_t { kLeft = 1, kRight = 2, kMiddle = 4 };
-
-// A cell is 375 x 375 units; the mark of digit d sits in the 125-unit square at row (d-1) div 3,
-// column (d-1) mod 3 of the cell.
-inline constexpr int kCellUnits = 375;
-inline constexpr int kMarkUnits = 125;
 
 class Tessel_Main {
  public:
@@ -66,23 +61,8 @@ class Tessel_Main {
   void RunConceal();
   void SaveTessel();
 
-  // solving_mode.cpp
-  void CommandSolve_Click();
-  void CommandRestart_Click();
-  void CommandSolution_Click();
-  void CommandQuit_Click();
-  void CheckPencilmarks_Click();
-  bool PlaceDigit(int cell, int digit);
-  bool TakeOutOrToggle(int cell, int digit);
-  bool ResetCell(int cell);
-  void TakeOut(int cell);
-  void ToggleMark(int cell, int digit);
-  void RefreshPencilmarks();
-  void OpenBoard();
-  void CloseBoard();
-  void ShowPuzzleCell(int cell);
-
   // tessel_main.cpp
+  void CommandQuit_Click();
   void CommandExit_Click();
   void Command1_Click();
   bool Answers(Button button) const;
@@ -99,6 +79,7 @@ class Tessel_Main {
   GameState state_;
   Form form_;
   Sounds sounds_;
+  SolvingMode solving_;
   ExactCoverSearch search_;
   bool running_ = false;  // a generation command is at work
   bool asking_ = false;   // a question is open

@@ -3,7 +3,7 @@
 #include <QtMath>
 #include <algorithm>
 
-#include "shell/tessel_main.h"
+#include "core/cell_click.h"
 
 namespace tessel {
 
@@ -13,16 +13,15 @@ constexpr int kLeastSide = 12;
 constexpr double kLeastCaptionPoints = 14.0;
 constexpr double kCaptionShare = 0.36;  // of the cell side, once that is more
 constexpr double kBandShare = 1.45;     // of the caption's size: the caption, its arrow, air
-constexpr int kMarksInLine = 3;
 
 }  // namespace
 
 BoardGeometry::BoardGeometry(QSize area, double scale, double pixelsPerPoint) {
   const int room = std::min(area.width(), area.height());
-  int side = std::max(kLeastSide, room / kSide / kMarksInLine * kMarksInLine);
+  int side = std::max(kLeastSide, room / kSide / kMarksPerLine * kMarksPerLine);
   TakeSide(side, scale, pixelsPerPoint);
   while (PanelSide() > room && side > kLeastSide) {
-    side -= kMarksInLine;
+    side -= kMarksPerLine;
     TakeSide(side, scale, pixelsPerPoint);
   }
   panel_ = QRect((area.width() - PanelSide()) / 2, (area.height() - PanelSide()) / 2, PanelSide(),
@@ -59,10 +58,10 @@ QRect BoardGeometry::ColumnCaptionRect(int column) const {
 }
 
 QRect BoardGeometry::MarkRect(int cell, int digit) const {
-  const int third = side_ / kMarksInLine;
+  const int third = side_ / kMarksPerLine;
   const QPoint corner = CellRect(cell).topLeft();
-  return {corner.x() + (digit - 1) % kMarksInLine * third,
-          corner.y() + (digit - 1) / kMarksInLine * third, third, third};
+  return {corner.x() + MarkColumnOf(digit) * third, corner.y() + MarkLineOf(digit) * third, third,
+          third};
 }
 
 std::optional<CellPoint> BoardGeometry::At(QPointF point) const {

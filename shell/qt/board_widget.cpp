@@ -226,9 +226,8 @@ bool BoardWidget::ActOnKey(const QKeyEvent& event) {
 }
 
 void BoardWidget::ReleaseOnMark(int digit, MouseButton button) {
-  const int row = (digit - 1) / 3;
-  const int column = (digit - 1) % 3;
-  emit CellReleased(focusedCell_, button, kMarkUnits * (column + 0.5), kMarkUnits * (row + 0.5));
+  const CellPosition at = MarkCentre(digit);
+  emit CellReleased(focusedCell_, button, at.x, at.y);
 }
 
 }  // namespace tessel

@@ -5,11 +5,11 @@
 #include <array>
 #include <optional>
 
+#include "core/cell_click.h"
 #include "core/form.h"
 #include "core/game_state.h"
 #include "shell/qt/board_geometry.h"
 #include "shell/qt/board_painter.h"
-#include "shell/tessel_main.h"
 
 namespace tessel {
 

@@ -25,9 +25,8 @@ struct TestProgram {
   }
   // Clicks the centre of a digit's mark.
   void ClickMark(int cell, int digit, MouseButton button) {
-    const int row = (digit - 1) / 3;
-    const int column = (digit - 1) % 3;
-    main.Grid_MouseUp(cell, button, 0, kMarkUnits * (column + 0.5), kMarkUnits * (row + 0.5));
+    const CellPosition at = MarkCentre(digit);
+    main.Grid_MouseUp(cell, button, 0, at.x, at.y);
   }
   // Saw, Fill and Conceal.
   void MakePuzzle() {

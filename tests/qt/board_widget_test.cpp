@@ -35,9 +35,7 @@ class BoardWidget : public testing::Test {
     QObject::connect(&board, &tessel::BoardWidget::CellReleased,
                      [this](int cell, MouseButton button, double x, double y) {
                        EXPECT_TRUE(x >= 0 && x < kCellUnits && y >= 0 && y < kCellUnits);
-                       const int column = static_cast<int>(std::floor(x / kMarkUnits));
-                       const int row = static_cast<int>(std::floor(y / kMarkUnits));
-                       releases.push_back({cell, button, 3 * row + column + 1});
+                       releases.push_back({cell, button, DigitAt({x, y}).value_or(0)});
                      });
     QCoreApplication::processEvents();
   }

@@ -111,8 +111,8 @@ class Photographer {
       for (int step = wrong; step < kSide; ++step) {
         const int digit = (main_.state().PlayBoard.Solution[i] - 1 + step) % kSide + 1;
         if (!main_.form().Mark(cell, digit).visible) continue;
-        emit Board().CellReleased(cell, MouseButton::kLeft, kMarkUnits * ((digit - 1) % 3 + 0.5),
-                                  kMarkUnits * ((digit - 1) / 3 + 0.5));
+        const CellPosition at = MarkCentre(digit);
+        emit Board().CellReleased(cell, MouseButton::kLeft, at.x, at.y);
         break;
       }
       --count;

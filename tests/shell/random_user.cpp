@@ -117,8 +117,8 @@ void RandomUser::FinishBoard() {
 void RandomUser::ClickMark(int cell, int digit, MouseButton button) {
   Note("button " + std::to_string(static_cast<int>(button)) + " on mark " + std::to_string(digit) +
        " of cell " + std::to_string(cell));
-  program_->MouseUp(cell, button, kMarkUnits * ((digit + 8) % 3 + 0.5),
-                    kMarkUnits * ((digit + 8) % 9 / 3 + 0.5));
+  const CellPosition at = MarkCentre(digit == 0 ? kSide : digit);
+  program_->MouseUp(cell, button, at.x, at.y);
 }
 
 void RandomUser::ActInsidePump(long pump) {

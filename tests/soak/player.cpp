@@ -17,7 +17,7 @@ namespace {
 constexpr int kMostRepairs = 3000;
 constexpr int kStopOneIn = 8;
 
-oracle::Layout LayoutOf(const GameState& state) {
+oracle::Layout OracleLayoutOf(const GameState& state) {
   return oracle::LayoutOf(state.CageOfCell);
 }
 
@@ -80,12 +80,12 @@ void Player::CheckLayout() {
 }
 
 void Player::CheckSolution() {
-  EXPECT_TRUE(oracle::IsFilling(LayoutOf(state_), state_.WorkGrid));
+  EXPECT_TRUE(oracle::IsFilling(OracleLayoutOf(state_), state_.WorkGrid));
 }
 
 void Player::CheckPuzzle() {
   CheckSolution();
-  oracle::IndependentSolver solver(LayoutOf(state_));
+  oracle::IndependentSolver solver(OracleLayoutOf(state_));
   EXPECT_EQ(solver.CountSolutions(state_.Puzzle, 2), 1);
   EXPECT_EQ(solver.Solution(), state_.WorkGrid);
   const auto givens = kCellCount - std::ranges::count(state_.Puzzle, 0);
