@@ -71,7 +71,8 @@ TEST(Grade, BeyondTellsWhereItIsStuck) {
   PuzzleMaker maker;
   int stuck = 0;
   for (std::uint64_t seed = 0; seed < 40; ++seed) {
-    const Puzzle puzzle = maker.Make(bench::LayoutKind::kRandom, bench::ConcealKind::kSingle, seed);
+    const Puzzle puzzle =
+        maker.Make(bench::LayoutKind::kRandom, solver::ConcealRule::kSingle, seed);
     const Grade grade = GradeOf(puzzle.layout, puzzle.givens);
     if (grade.level != Level::kBeyond) continue;
     ++stuck;

@@ -1,45 +1,50 @@
-// Puzzles to grade, made by the program's own stages.
+// Puzzles to grade: many, and quickly made.
 #pragma once
 
 #include "bench/engine.h"
 #include "core/puzzle.h"
+#include "solver/conceal.h"
 
 namespace tessel {
 
 class PuzzleMaker {
  public:
   // The same puzzle for the same arguments; it has its solution.
-  Puzzle Make(bench::LayoutKind layout, bench::ConcealKind conceal, std::uint64_t seed) {
-    engine_.SawFillableLayout(layout, seed);
-    engine_.Fill(seed);
-    const Grid solution = GridOf(engine_.state.WorkGrid);
-    engine_.Conceal(conceal, seed);
-    CageNumbers cages{};
-    std::ranges::copy(engine_.state.CageOfCell, cages.begin());
-    return {Layout::FromCages(cages).value(), GridOf(engine_.state.Puzzle), solution};
+  Puzzle Make(bench::LayoutKind layout, solver::ConcealRule rule, std::uint64_t seed) {
+    RandomStream random(seed);
+    Puzzle puzzle = Filled(layout, random);
+    puzzle.givens = solver::Conceal(solver_, *puzzle.solution, rule, random);
+    return puzzle;
   }
 
   // Random, rotational and regular layouts with both rules of concealing, in turn.
   Puzzle MakeAnyKind(std::uint64_t seed) {
-    using bench::ConcealKind;
     using bench::LayoutKind;
+    using solver::ConcealRule;
     static constexpr std::array layouts{LayoutKind::kRandom, LayoutKind::kRotational,
                                         LayoutKind::kRandom, LayoutKind::kRegular};
-    const ConcealKind conceal = seed / 4 % 2 == 0 ? ConcealKind::kSingle : ConcealKind::kPairs;
-    return Make(layouts[seed % 4], conceal, seed);
+    return Make(layouts[seed % 4], seed / 4 % 2 == 0 ? ConcealRule::kSingle : ConcealRule::kPairs,
+                seed);
   }
 
  private:
-  template <typename Digits>
-  static Grid GridOf(const Digits& digits) {
-    Grid grid{};
-    for (int cell = 0; cell < kCellCount; ++cell) {
-      grid[cell] = static_cast<std::uint8_t>(digits[cell]);
+  // Draws layouts until one has a filling.
+  Puzzle Filled(bench::LayoutKind kind, RandomStream& random) {
+    while (true) {
+      engine_.SawAnyLayout(kind, random.Next());
+      CageNumbers cages{};
+      std::ranges::copy(engine_.state.CageOfCell, cages.begin());
+      const Layout layout = Layout::FromCages(cages).value();
+      solver_.Use(layout);
+      const solver::Filling filling = solver_.Fill(random, kMostNodes);
+      if (filling.answer == solver::Answer::kYes) return {layout, {}, filling.grid};
     }
-    return grid;
   }
 
+  static constexpr std::uint64_t kMostNodes = 100'000;
+
   bench::Engine engine_;
+  solver::Solver solver_{Layout::Regular()};
 };
 
 }  // namespace tessel

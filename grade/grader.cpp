@@ -1,0 +1,21 @@
+#include "grade/grader.h"
+
+namespace tessel {
+
+std::string_view MessageOf(GradeFault fault) {
+  return fault == GradeFault::kNoSolution ? "it has no solution" : "it has several solutions";
+}
+
+tl::expected<Grade, GradeFault> Grader::GradeOf(const Layout& layout, const Grid& givens) {
+  if (solver_) {
+    solver_->Use(layout);
+  } else {
+    solver_.emplace(layout);
+  }
+  const std::size_t solutions = solver_->Completions(givens).size();
+  if (solutions == 0) return tl::unexpected(GradeFault::kNoSolution);
+  if (solutions > 1) return tl::unexpected(GradeFault::kSeveralSolutions);
+  return tessel::GradeOf(layout, givens);
+}
+
+}  // namespace tessel
