@@ -23,7 +23,8 @@ void AddIfUseful(Steps& steps, Step step) {
   if (!step.removals.empty()) steps.push_back(std::move(step));
 }
 
-Step PointingStep(const Layout& layout, const Position& position, const House& cage, int digit) {
+Step PointingStep(const Layout& layout, const CandidateGrid& position, const House& cage,
+                  int digit) {
   const CellSet places = CandidatesOf(position, digit) & CellsOf(cage);
   Step step{StepKind::kPointing, {HouseNameOf(cage)}, places, BitOf(digit)};
   if (places.Empty()) return step;
@@ -31,7 +32,8 @@ Step PointingStep(const Layout& layout, const Position& position, const House& c
   return step;
 }
 
-Step ClaimingStep(const Layout& layout, const Position& position, const House& line, int digit) {
+Step ClaimingStep(const Layout& layout, const CandidateGrid& position, const House& line,
+                  int digit) {
   const CellSet places = CandidatesOf(position, digit) & CellsOf(line);
   Step step{StepKind::kClaiming, {HouseNameOf(line)}, places, BitOf(digit)};
   if (places.Empty()) return step;
@@ -71,7 +73,7 @@ Band BandOf(std::span<const House> lines, std::span<const House> cages, unsigned
 
 // At most one of the two directions removes anything: with both sides bare of the digit, neither
 // has a candidate to lose.
-void AddLeftovers(Steps& steps, const Position& position, const Band& band, int digit,
+void AddLeftovers(Steps& steps, const CandidateGrid& position, const Band& band, int digit,
                   CellSet places) {
   const CellSet ofLines = band.lines - band.cages;
   const CellSet ofCages = band.cages - band.lines;
@@ -87,13 +89,13 @@ void AddLeftovers(Steps& steps, const Position& position, const Band& band, int 
 
 using PlacesByDigit = std::array<CellSet, kSide>;
 
-PlacesByDigit PlacesByDigitOf(const Position& position) {
+PlacesByDigit PlacesByDigitOf(const CandidateGrid& position) {
   PlacesByDigit places;
   for (int digit = 1; digit <= kSide; ++digit) places[digit - 1] = PlacesOf(position, digit);
   return places;
 }
 
-void AddLeftoversOfBand(Steps& steps, const Layout& layout, const Position& position,
+void AddLeftoversOfBand(Steps& steps, const Layout& layout, const CandidateGrid& position,
                         const PlacesByDigit& places, std::span<const House> lines) {
   for (unsigned chosen = 0; chosen <= unsigned{kAllCandidates}; ++chosen) {
     if (std::popcount(chosen) != static_cast<int>(lines.size())) continue;
@@ -106,7 +108,7 @@ void AddLeftoversOfBand(Steps& steps, const Layout& layout, const Position& posi
 
 }  // namespace
 
-Steps PointingSteps(const Layout& layout, const Position& position) {
+Steps PointingSteps(const Layout& layout, const CandidateGrid& position) {
   Steps steps;
   for (int digit = 1; digit <= kSide; ++digit) {
     for (const House& cage : layout.HousesOf(HouseKind::kCage)) {
@@ -116,7 +118,7 @@ Steps PointingSteps(const Layout& layout, const Position& position) {
   return steps;
 }
 
-Steps ClaimingSteps(const Layout& layout, const Position& position) {
+Steps ClaimingSteps(const Layout& layout, const CandidateGrid& position) {
   Steps steps;
   for (const HouseKind kind : kLineKinds) {
     for (const House& line : layout.HousesOf(kind)) {
@@ -128,7 +130,7 @@ Steps ClaimingSteps(const Layout& layout, const Position& position) {
   return steps;
 }
 
-Steps LeftoverSteps(int lines, const Layout& layout, const Position& position) {
+Steps LeftoverSteps(int lines, const Layout& layout, const CandidateGrid& position) {
   Steps steps;
   const PlacesByDigit places = PlacesByDigitOf(position);
   for (const HouseKind kind : kLineKinds) {

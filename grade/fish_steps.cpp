@@ -31,7 +31,7 @@ void AppendNames(std::vector<HouseName>& names, HouseKind kind, unsigned chosen)
 }
 
 // A strict fish: `size` lines, each with the digit in exactly the same `size` places.
-std::optional<Step> FishOn(const Layout& layout, const Position& position, HouseKind kind,
+std::optional<Step> FishOn(const Layout& layout, const CandidateGrid& position, HouseKind kind,
                            unsigned chosen, int digit) {
   const HouseKind across = kind == HouseKind::kRow ? HouseKind::kColumn : HouseKind::kRow;
   const int size = std::popcount(chosen);
@@ -50,7 +50,7 @@ std::optional<Step> FishOn(const Layout& layout, const Position& position, House
 
 }  // namespace
 
-Steps FishSteps(int size, const Layout& layout, const Position& position) {
+Steps FishSteps(int size, const Layout& layout, const CandidateGrid& position) {
   Steps steps;
   for (const HouseKind kind : kLineKinds) {
     for (unsigned chosen = 0; chosen <= unsigned{kAllCandidates}; ++chosen) {

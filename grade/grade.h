@@ -5,7 +5,7 @@
 // numbered anew or its digits renamed, a puzzle therefore keeps its grade.
 #pragma once
 
-#include "grade/position.h"
+#include "grade/candidate_grid.h"
 #include "grade/step_kind.h"
 
 namespace tessel {
@@ -16,8 +16,8 @@ struct Grade {
   int score = 0;                            // the weights of all steps
   std::array<int, kStepKindCount> steps{};  // taken of each kind
   int rounds = 0;
-  int fewest = 0;                 // steps to choose from in any round; 0 without rounds
-  std::optional<Position> stuck;  // Level::kBeyond: where no kind of step is left
+  int fewest = 0;                      // steps to choose from in any round; 0 without rounds
+  std::optional<CandidateGrid> stuck;  // Level::kBeyond: where no kind of step is left
 
   int StepsOf(StepKind kind) const { return steps[static_cast<std::size_t>(kind)]; }
   // Adds a round of `count` steps, at least one.

@@ -1,4 +1,4 @@
-// A position that is kept for speed: the twin of Position, with all that a round asks of it.
+// A position that is kept for speed: the twin of CandidateGrid, with all that a round asks of it.
 //
 // The plain way looks at the whole board again for every kind of step in every round. Here every
 // candidate is written down four times: in its cell, as a place in its row, column and cage. Taking
@@ -12,7 +12,7 @@
 #include <cstdint>
 
 #include "core/cell_set.h"
-#include "grade/position.h"
+#include "grade/candidate_grid.h"
 
 namespace tessel {
 
@@ -34,7 +34,7 @@ class QuickPosition {
   QuickPosition(const Layout& layout, const Grid& givens);
 
   bool Solved() const { return open_ == 0; }
-  Position Value() const { return {board_, candidates_}; }
+  CandidateGrid Value() const { return {board_, candidates_}; }
 
   // Write every single of the position and return how many there are.
   int WriteNakedSingles();

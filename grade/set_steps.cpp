@@ -27,10 +27,10 @@ struct OpenHouse {
   Mask digits = 0;  // not yet written in it
 };
 
-OpenHouse OpenPartOf(const House& house, const Position& position) {
+OpenHouse OpenPartOf(const House& house, const CandidateGrid& position) {
   OpenHouse open{house, {}, kAllCandidates};
   for (const int cell : house.cells) {
-    const int digit = position.board[cell];
+    const int digit = position.digits[cell];
     if (digit == 0) {
       open.cells = open.cells | CellSet::Of(cell);
     } else {
@@ -45,7 +45,7 @@ struct HeldDigits {
   int byAll = kAllCandidates;
 };
 
-HeldDigits DigitsIn(const Position& position, CellSet cells) {
+HeldDigits DigitsIn(const CandidateGrid& position, CellSet cells) {
   HeldDigits held;
   ForEach(cells, [&](int cell) {
     held.byAny |= position.candidates[cell];
@@ -62,7 +62,7 @@ CellSet ChosenCells(const House& house, unsigned chosen) {
   return cells;
 }
 
-std::optional<CellsAndDigits> NakedSetOf(const OpenHouse& open, const Position& position,
+std::optional<CellsAndDigits> NakedSetOf(const OpenHouse& open, const CandidateGrid& position,
                                          CellSet cells) {
   const HeldDigits held = DigitsIn(position, cells);
   if (!(cells - open.cells).Empty()) return std::nullopt;
@@ -71,7 +71,7 @@ std::optional<CellsAndDigits> NakedSetOf(const OpenHouse& open, const Position& 
   return CellsAndDigits{cells, static_cast<Mask>(held.byAny), true};
 }
 
-std::optional<CellsAndDigits> HiddenSetOf(const OpenHouse& open, const Position& position,
+std::optional<CellsAndDigits> HiddenSetOf(const OpenHouse& open, const CandidateGrid& position,
                                           Mask digits) {
   if (Without(digits, open.digits) != 0) return std::nullopt;
   CellsAndDigits set{{}, digits, false};
@@ -90,7 +90,7 @@ CellsAndDigits Smaller(const OpenHouse& open, const CellsAndDigits& set) {
   return order(rest) < order(set) ? rest : set;
 }
 
-std::vector<CellsAndDigits> SetsIn(const OpenHouse& open, const Position& position) {
+std::vector<CellsAndDigits> SetsIn(const OpenHouse& open, const CandidateGrid& position) {
   std::vector<CellsAndDigits> sets;
   const auto add = [&](const std::optional<CellsAndDigits>& found) {
     if (!found) return;
@@ -114,7 +114,7 @@ std::optional<StepKind> KindOf(const CellsAndDigits& set) {
   return std::nullopt;
 }
 
-Step StepOf(StepKind kind, const OpenHouse& open, const Position& position,
+Step StepOf(StepKind kind, const OpenHouse& open, const CandidateGrid& position,
             const CellsAndDigits& set) {
   Step step{kind, {HouseNameOf(open.house)}, set.cells, set.digits};
   step.removals = set.naked ? RemovalsOf(position, open.cells - set.cells, set.digits)
@@ -124,7 +124,7 @@ Step StepOf(StepKind kind, const OpenHouse& open, const Position& position,
 
 }  // namespace
 
-Steps SetSteps(StepKind kind, const Layout& layout, const Position& position) {
+Steps SetSteps(StepKind kind, const Layout& layout, const CandidateGrid& position) {
   Steps steps;
   for (const House& house : layout.AllHouses()) {
     const OpenHouse open = OpenPartOf(house, position);

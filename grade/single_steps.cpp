@@ -21,7 +21,7 @@ void AddHiddenSingle(Steps& steps, const House& house, int cell, int digit) {
 
 }  // namespace
 
-Steps NakedSingleSteps(const Layout& /*layout*/, const Position& position) {
+Steps NakedSingleSteps(const Layout& /*layout*/, const CandidateGrid& position) {
   Steps steps;
   for (int cell = 0; cell < kCellCount; ++cell) {
     const Mask mask = position.candidates[cell];
@@ -33,7 +33,7 @@ Steps NakedSingleSteps(const Layout& /*layout*/, const Position& position) {
   return steps;
 }
 
-Steps HiddenSingleSteps(const Layout& layout, const Position& position) {
+Steps HiddenSingleSteps(const Layout& layout, const CandidateGrid& position) {
   Steps steps;
   for (int digit = 1; digit <= kSide; ++digit) {
     const CellSet candidates = CandidatesOf(position, digit);

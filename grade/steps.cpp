@@ -4,7 +4,7 @@
 
 namespace tessel {
 
-Steps StepsOf(StepKind kind, const Layout& layout, const Position& position) {
+Steps StepsOf(StepKind kind, const Layout& layout, const CandidateGrid& position) {
   switch (kind) {
     case StepKind::kNakedSingle:
       return NakedSingleSteps(layout, position);
@@ -34,7 +34,7 @@ Steps StepsOf(StepKind kind, const Layout& layout, const Position& position) {
   return {};
 }
 
-std::vector<Removal> RemovalsOf(const Position& position, CellSet cells, Mask digits) {
+std::vector<Removal> RemovalsOf(const CandidateGrid& position, CellSet cells, Mask digits) {
   std::vector<Removal> removals;
   ForEach(cells, [&](int cell) {
     const auto removed = static_cast<Mask>(position.candidates[cell] & digits);

@@ -12,19 +12,19 @@
 
 #include <vector>
 
-#include "grade/position.h"
+#include "grade/candidate_grid.h"
 #include "grade/step.h"
 
 namespace tessel {
 
 // The position must be free of contradictions: every open cell holds the digit of some solution.
-std::vector<Step> StepsOf(StepKind kind, const Layout& layout, const Position& position);
+std::vector<Step> StepsOf(StepKind kind, const Layout& layout, const CandidateGrid& position);
 
 // The Law of Leftovers for `lines` adjacent lines, 1..4, and as many cages: the cells of the lines
 // outside the cages and the cells of the cages outside the lines hold the same digits, as often.
 // A digit that has no place among the first therefore has none among the second, and the other way
 // round. Five to eight lines from an edge would only repeat what the four to one beyond them say.
 // One line says what pointing and claiming say, so no kind of step is made of it.
-std::vector<Step> LeftoverSteps(int lines, const Layout& layout, const Position& position);
+std::vector<Step> LeftoverSteps(int lines, const Layout& layout, const CandidateGrid& position);
 
 }  // namespace tessel

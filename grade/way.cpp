@@ -4,8 +4,8 @@ namespace tessel {
 
 namespace {
 
-void Write(const Layout& layout, Position& position, Placement placed) {
-  position.board[placed.cell] = static_cast<std::uint8_t>(placed.digit);
+void Write(const Layout& layout, CandidateGrid& position, Placement placed) {
+  position.digits[placed.cell] = static_cast<std::uint8_t>(placed.digit);
   position.candidates[placed.cell] = 0;
   ForEach(layout.PeersOf(placed.cell), [&](int peer) {
     position.candidates[peer] = Without(position.candidates[peer], BitOf(placed.digit));
@@ -13,7 +13,7 @@ void Write(const Layout& layout, Position& position, Placement placed) {
 }
 
 // All steps of the easiest kind that the position offers.
-std::optional<Round> NextRound(const Layout& layout, const Position& position) {
+std::optional<Round> NextRound(const Layout& layout, const CandidateGrid& position) {
   for (const StepKindFacts& facts : kStepKinds) {
     std::vector<Step> steps = StepsOf(facts.kind, layout, position);
     if (steps.empty()) continue;
@@ -26,7 +26,7 @@ std::optional<Round> NextRound(const Layout& layout, const Position& position) {
 
 }  // namespace
 
-Position After(const Layout& layout, Position position, const Step& step) {
+CandidateGrid After(const Layout& layout, CandidateGrid position, const Step& step) {
   if (step.placement) Write(layout, position, *step.placement);
   for (const Removal& removal : step.removals) {
     Mask& candidates = position.candidates[removal.cell];

@@ -9,15 +9,15 @@ namespace tessel {
 struct Round {
   StepKind kind = StepKind::kNakedSingle;
   std::vector<Step> steps;  // all of this kind that the position before offered, at least one
-  Position after;           // when all of them are taken
+  CandidateGrid after;      // when all of them are taken
 };
 
 struct Way {
-  Position start;
+  CandidateGrid start;
   std::vector<Round> rounds;
 
   // The solution, or the position where the steps end.
-  const Position& End() const { return rounds.empty() ? start : rounds.back().after; }
+  const CandidateGrid& End() const { return rounds.empty() ? start : rounds.back().after; }
 };
 
 // The givens must have exactly one solution.
@@ -26,6 +26,6 @@ Way WayOf(const Layout& layout, const Grid& givens);
 Grade GradeOf(const Way& way);
 
 // The position with the step's digit written, or its candidates removed.
-Position After(const Layout& layout, Position position, const Step& step);
+CandidateGrid After(const Layout& layout, CandidateGrid position, const Step& step);
 
 }  // namespace tessel

@@ -17,7 +17,7 @@ void ExpectTrue(const Step& step, const Grid& solution) {
   }
 }
 
-void ExpectWorks(const Step& step, const Position& before) {
+void ExpectWorks(const Step& step, const CandidateGrid& before) {
   EXPECT_NE(step.placement.has_value(), !step.removals.empty());
   EXPECT_FALSE(step.cells.Empty());
   EXPECT_NE(step.digits, 0);
@@ -43,7 +43,7 @@ TEST(Way, EveryStepChangesThePositionBeforeItsRound) {
   for (std::uint64_t seed = 0; seed < 50; ++seed) {
     const Puzzle puzzle = maker.MakeAnyKind(seed);
     const Way way = WayOf(puzzle.layout, puzzle.givens);
-    const Position* before = &way.start;
+    const CandidateGrid* before = &way.start;
     for (const Round& round : way.rounds) {
       for (const Step& step : round.steps) {
         EXPECT_EQ(step.kind, round.kind);
@@ -58,7 +58,7 @@ TEST(Way, EveryStepChangesThePositionBeforeItsRound) {
 TEST(Way, EachRoundTakesTheEasiestKind) {
   const Puzzle puzzle = PuzzleMaker().MakeAnyKind(5);
   const Way way = WayOf(puzzle.layout, puzzle.givens);
-  const Position* before = &way.start;
+  const CandidateGrid* before = &way.start;
   for (const Round& round : way.rounds) {
     for (const StepKindFacts& facts : kStepKinds) {
       if (facts.kind == round.kind) break;
@@ -76,7 +76,7 @@ TEST(Way, EndsAtTheSolution) {
     const Way way = WayOf(puzzle.layout, puzzle.givens);
     if (!way.End().Solved()) continue;
     ++solved;
-    EXPECT_EQ(way.End().board, *puzzle.solution);
+    EXPECT_EQ(way.End().digits, *puzzle.solution);
   }
   EXPECT_GT(solved, 0);
 }
@@ -85,7 +85,7 @@ TEST(Way, OfAFullBoardHasNoRounds) {
   const Puzzle puzzle = PuzzleMaker().MakeAnyKind(2);
   const Way way = WayOf(puzzle.layout, *puzzle.solution);
   EXPECT_TRUE(way.rounds.empty());
-  EXPECT_EQ(way.End().board, *puzzle.solution);
+  EXPECT_EQ(way.End().digits, *puzzle.solution);
 }
 
 }  // namespace

@@ -6,21 +6,21 @@
 
 namespace tessel {
 
-struct Position {
-  Grid board{};            // 0 for an open cell
+struct CandidateGrid {
+  Grid digits{};           // 0 for an open cell
   MaskBoard candidates{};  // 0 for a filled cell
 
   bool Solved() const;
 
-  friend bool operator==(const Position&, const Position&) = default;
+  friend bool operator==(const CandidateGrid&, const CandidateGrid&) = default;
 };
 
 // The givens, and in each open cell the digits that none of its peers holds.
-Position StartOf(const Layout& layout, const Grid& givens);
+CandidateGrid StartOf(const Layout& layout, const Grid& givens);
 
 // The cells that have `digit`, 1..9, as a candidate.
-CellSet CandidatesOf(const Position& position, int digit);
+CellSet CandidatesOf(const CandidateGrid& position, int digit);
 // And those where it is written.
-CellSet PlacesOf(const Position& position, int digit);
+CellSet PlacesOf(const CandidateGrid& position, int digit);
 
 }  // namespace tessel

@@ -1,4 +1,4 @@
-#include "grade/position.h"
+#include "grade/candidate_grid.h"
 
 #include <algorithm>
 
@@ -17,19 +17,19 @@ Mask CandidatesAt(const Layout& layout, const Grid& givens, int cell) {
 
 }  // namespace
 
-bool Position::Solved() const {
-  return std::ranges::find(board, 0) == board.end();
+bool CandidateGrid::Solved() const {
+  return std::ranges::find(digits, 0) == digits.end();
 }
 
-Position StartOf(const Layout& layout, const Grid& givens) {
-  Position start{givens, {}};
+CandidateGrid StartOf(const Layout& layout, const Grid& givens) {
+  CandidateGrid start{givens, {}};
   for (int cell = 0; cell < kCellCount; ++cell) {
     start.candidates[cell] = CandidatesAt(layout, givens, cell);
   }
   return start;
 }
 
-CellSet CandidatesOf(const Position& position, int digit) {
+CellSet CandidatesOf(const CandidateGrid& position, int digit) {
   CellSet cells;
   for (int cell = 0; cell < kCellCount; ++cell) {
     if (Holds(position.candidates[cell], digit)) cells = cells | CellSet::Of(cell);
@@ -37,10 +37,10 @@ CellSet CandidatesOf(const Position& position, int digit) {
   return cells;
 }
 
-CellSet PlacesOf(const Position& position, int digit) {
+CellSet PlacesOf(const CandidateGrid& position, int digit) {
   CellSet cells = CandidatesOf(position, digit);
   for (int cell = 0; cell < kCellCount; ++cell) {
-    if (position.board[cell] == digit) cells = cells | CellSet::Of(cell);
+    if (position.digits[cell] == digit) cells = cells | CellSet::Of(cell);
   }
   return cells;
 }
