@@ -6,7 +6,7 @@
 
 #include "core/cell.h"
 
-namespace tessel {
+namespace tessel::grade {
 
 constexpr bool IsSingle(Mask mask) {
   return mask != 0 && (mask & (mask - 1)) == 0;
@@ -29,4 +29,4 @@ constexpr void ForEachBit(Mask mask, const Visit& visit) {
   ForEachBit(static_cast<std::uint32_t>(mask), visit);
 }
 
-}  // namespace tessel
+}  // namespace tessel::grade

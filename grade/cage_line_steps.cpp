@@ -3,7 +3,7 @@
 
 #include "grade/step_searches.h"
 
-namespace tessel {
+namespace tessel::grade {
 
 namespace {
 
@@ -144,4 +144,4 @@ Steps LeftoverSteps(int lines, const Layout& layout, const CandidateGrid& positi
   return steps;
 }
 
-}  // namespace tessel
+}  // namespace tessel::grade

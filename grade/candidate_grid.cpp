@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace tessel {
+namespace tessel::grade {
 
 namespace {
 
@@ -45,4 +45,4 @@ CellSet PlacesOf(const CandidateGrid& position, int digit) {
   return cells;
 }
 
-}  // namespace tessel
+}  // namespace tessel::grade

@@ -4,7 +4,7 @@
 #include "core/board.h"
 #include "core/layout.h"
 
-namespace tessel {
+namespace tessel::grade {
 
 struct CandidateGrid {
   Grid digits{};           // 0 for an open cell
@@ -23,4 +23,4 @@ CellSet CandidatesOf(const CandidateGrid& position, int digit);
 // And those where it is written.
 CellSet PlacesOf(const CandidateGrid& position, int digit);
 
-}  // namespace tessel
+}  // namespace tessel::grade

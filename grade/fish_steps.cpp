@@ -3,13 +3,13 @@
 
 #include "grade/step_searches.h"
 
-namespace tessel {
+namespace tessel::grade {
 
 namespace {
 
 using Lines = std::span<const House, kSide>;
 
-CellSet CellsOf(Lines lines, unsigned chosen) {
+CellSet CellsOfLines(Lines lines, unsigned chosen) {
   CellSet cells;
   for (; chosen != 0; chosen &= chosen - 1) {
     cells = cells | CellsOf(lines[static_cast<std::size_t>(std::countr_zero(chosen))]);
@@ -35,7 +35,7 @@ std::optional<Step> FishOn(const Layout& layout, const CandidateGrid& position, 
                            unsigned chosen, int digit) {
   const HouseKind across = kind == HouseKind::kRow ? HouseKind::kColumn : HouseKind::kRow;
   const int size = std::popcount(chosen);
-  const CellSet lines = CellsOf(layout.HousesOf(kind), chosen);
+  const CellSet lines = CellsOfLines(layout.HousesOf(kind), chosen);
   const CellSet candidates = CandidatesOf(position, digit);
   const CellSet places = candidates & lines;
   const unsigned crossed = Touched(layout.HousesOf(across), places);
@@ -43,7 +43,7 @@ std::optional<Step> FishOn(const Layout& layout, const CandidateGrid& position, 
   Step step{size == 2 ? StepKind::kXWing : StepKind::kSwordFish, {}, places, BitOf(digit)};
   AppendNames(step.houses, kind, chosen);
   AppendNames(step.houses, across, crossed);
-  const CellSet crossing = CellsOf(layout.HousesOf(across), crossed);
+  const CellSet crossing = CellsOfLines(layout.HousesOf(across), crossed);
   step.removals = RemovalsOf(position, crossing - lines, BitOf(digit));
   return step;
 }
@@ -64,4 +64,4 @@ Steps FishSteps(int size, const Layout& layout, const CandidateGrid& position) {
   return steps;
 }
 
-}  // namespace tessel
+}  // namespace tessel::grade

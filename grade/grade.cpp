@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace tessel {
+namespace tessel::grade {
 
 void Grade::Count(StepKind kind, int count) {
   level = std::max(level, FactsOf(kind).level);
@@ -13,4 +13,4 @@ void Grade::Count(StepKind kind, int count) {
   ++rounds;
 }
 
-}  // namespace tessel
+}  // namespace tessel::grade

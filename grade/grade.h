@@ -8,7 +8,7 @@
 #include "grade/candidate_grid.h"
 #include "grade/step_kind.h"
 
-namespace tessel {
+namespace tessel::grade {
 
 struct Grade {
   Level level = Level::kEasy;
@@ -29,4 +29,4 @@ struct Grade {
 // The givens must have exactly one solution. The fast way: WayOf tells the same, with reasons.
 Grade GradeOf(const Layout& layout, const Grid& givens);
 
-}  // namespace tessel
+}  // namespace tessel::grade

@@ -2,7 +2,7 @@
 #include "grade/bits.h"
 #include "grade/quick_steps.h"
 
-namespace tessel {
+namespace tessel::grade {
 
 namespace {
 
@@ -152,4 +152,4 @@ Removals QuickLeftovers(int lines, const QuickPosition& position) {
   return removals;
 }
 
-}  // namespace tessel
+}  // namespace tessel::grade

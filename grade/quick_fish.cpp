@@ -2,7 +2,7 @@
 #include "grade/bits.h"
 #include "grade/quick_steps.h"
 
-namespace tessel {
+namespace tessel::grade {
 
 namespace {
 
@@ -52,4 +52,4 @@ Removals QuickFish(int size, const QuickPosition& position) {
   return removals;
 }
 
-}  // namespace tessel
+}  // namespace tessel::grade

@@ -2,7 +2,7 @@
 #include "grade/grade.h"
 #include "grade/quick_steps.h"
 
-namespace tessel {
+namespace tessel::grade {
 
 namespace {
 
@@ -73,4 +73,4 @@ Grade GradeOf(const Layout& layout, const Grid& givens) {
   return grade;
 }
 
-}  // namespace tessel
+}  // namespace tessel::grade

@@ -2,7 +2,7 @@
 
 #include "grade/bits.h"
 
-namespace tessel {
+namespace tessel::grade {
 
 QuickPosition::QuickPosition(const Layout& layout, const Grid& givens) : layout_(layout) {
   for (auto& cages : written_) cages.fill(-1);
@@ -115,4 +115,4 @@ void QuickPosition::Remove(const Removals& removals) {
   });
 }
 
-}  // namespace tessel
+}  // namespace tessel::grade

@@ -14,7 +14,7 @@
 #include "core/cell_set.h"
 #include "grade/candidate_grid.h"
 
-namespace tessel {
+namespace tessel::grade {
 
 // What one kind of step removes from a position.
 struct Removals {
@@ -79,4 +79,4 @@ class QuickPosition {
   std::array<std::uint32_t, kSide> hiddenSingles_{};  // by digit: bit h for house h
 };
 
-}  // namespace tessel
+}  // namespace tessel::grade

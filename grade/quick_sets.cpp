@@ -5,7 +5,7 @@
 #include "grade/bits.h"
 #include "grade/quick_steps.h"
 
-namespace tessel {
+namespace tessel::grade {
 
 namespace {
 
@@ -116,4 +116,4 @@ Removals QuickHiddenSets(int size, const QuickPosition& position) {
   return removals;
 }
 
-}  // namespace tessel
+}  // namespace tessel::grade

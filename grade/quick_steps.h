@@ -5,7 +5,7 @@
 #include "grade/quick_position.h"
 #include "grade/step_kind.h"
 
-namespace tessel {
+namespace tessel::grade {
 
 // `kind` is none of the singles.
 Removals RemovalsOf(StepKind kind, const QuickPosition& position);
@@ -17,4 +17,4 @@ Removals QuickNakedSets(int size, const QuickPosition& position);
 Removals QuickHiddenSets(int size, const QuickPosition& position);
 Removals QuickFish(int size, const QuickPosition& position);
 
-}  // namespace tessel
+}  // namespace tessel::grade

@@ -5,7 +5,7 @@
 
 #include "grade/step_searches.h"
 
-namespace tessel {
+namespace tessel::grade {
 
 namespace {
 
@@ -135,4 +135,4 @@ Steps SetSteps(StepKind kind, const Layout& layout, const CandidateGrid& positio
   return steps;
 }
 
-}  // namespace tessel
+}  // namespace tessel::grade

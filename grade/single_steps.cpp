@@ -4,7 +4,7 @@
 
 #include "grade/step_searches.h"
 
-namespace tessel {
+namespace tessel::grade {
 
 namespace {
 
@@ -45,4 +45,4 @@ Steps HiddenSingleSteps(const Layout& layout, const CandidateGrid& position) {
   return steps;
 }
 
-}  // namespace tessel
+}  // namespace tessel::grade

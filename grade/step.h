@@ -8,7 +8,7 @@
 #include "core/houses.h"
 #include "grade/step_kind.h"
 
-namespace tessel {
+namespace tessel::grade {
 
 struct HouseName {
   HouseKind kind = HouseKind::kRow;
@@ -58,4 +58,4 @@ struct Step {
   friend bool operator==(const Step&, const Step&) = default;
 };
 
-}  // namespace tessel
+}  // namespace tessel::grade

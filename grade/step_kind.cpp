@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string>
 
-namespace tessel {
+namespace tessel::grade {
 
 namespace {
 
@@ -34,4 +34,4 @@ std::optional<StepKind> StepKindNamed(std::string_view name) {
   return std::nullopt;
 }
 
-}  // namespace tessel
+}  // namespace tessel::grade

@@ -7,7 +7,7 @@
 #include <optional>
 #include <string_view>
 
-namespace tessel {
+namespace tessel::grade {
 
 enum class Level : std::uint8_t { kEasy = 1, kModerate, kTricky, kHard, kVeryHard, kBeyond };
 
@@ -88,4 +88,4 @@ static_assert(InOrder());
 
 }  // namespace step_kind_detail
 
-}  // namespace tessel
+}  // namespace tessel::grade

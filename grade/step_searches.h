@@ -5,7 +5,7 @@
 
 #include "grade/steps.h"
 
-namespace tessel {
+namespace tessel::grade {
 
 using Steps = std::vector<Step>;
 
@@ -27,4 +27,4 @@ HouseName HouseNameOf(const House& house);
 // The two directions in which lines run.
 inline constexpr std::array kLineKinds{HouseKind::kRow, HouseKind::kColumn};
 
-}  // namespace tessel
+}  // namespace tessel::grade

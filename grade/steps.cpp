@@ -2,7 +2,7 @@
 
 #include "grade/step_searches.h"
 
-namespace tessel {
+namespace tessel::grade {
 
 Steps StepsOf(StepKind kind, const Layout& layout, const CandidateGrid& position) {
   switch (kind) {
@@ -53,4 +53,4 @@ HouseName HouseNameOf(const House& house) {
   return {house.kind, house.index};
 }
 
-}  // namespace tessel
+}  // namespace tessel::grade

@@ -15,7 +15,7 @@
 #include "grade/candidate_grid.h"
 #include "grade/step.h"
 
-namespace tessel {
+namespace tessel::grade {
 
 // The position must be free of contradictions: every open cell holds the digit of some solution.
 std::vector<Step> StepsOf(StepKind kind, const Layout& layout, const CandidateGrid& position);
@@ -27,4 +27,4 @@ std::vector<Step> StepsOf(StepKind kind, const Layout& layout, const CandidateGr
 // One line says what pointing and claiming say, so no kind of step is made of it.
 std::vector<Step> LeftoverSteps(int lines, const Layout& layout, const CandidateGrid& position);
 
-}  // namespace tessel
+}  // namespace tessel::grade

@@ -1,6 +1,6 @@
 #include "grade/way.h"
 
-namespace tessel {
+namespace tessel::grade {
 
 namespace {
 
@@ -52,4 +52,4 @@ Grade GradeOf(const Way& way) {
   return grade;
 }
 
-}  // namespace tessel
+}  // namespace tessel::grade

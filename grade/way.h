@@ -4,7 +4,7 @@
 #include "grade/grade.h"
 #include "grade/steps.h"
 
-namespace tessel {
+namespace tessel::grade {
 
 struct Round {
   StepKind kind = StepKind::kNakedSingle;
@@ -28,4 +28,4 @@ Grade GradeOf(const Way& way);
 // The position with the step's digit written, or its candidates removed.
 CandidateGrid After(const Layout& layout, CandidateGrid position, const Step& step);
 
-}  // namespace tessel
+}  // namespace tessel::grade

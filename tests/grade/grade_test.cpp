@@ -7,7 +7,7 @@
 #include "grade/way.h"
 #include "tests/grade/made_puzzles.h"
 
-namespace tessel {
+namespace tessel::grade {
 namespace {
 
 int OpenCells(const Grid& givens) {
@@ -85,4 +85,4 @@ TEST(Grade, BeyondTellsWhereItIsStuck) {
 }
 
 }  // namespace
-}  // namespace tessel
+}  // namespace tessel::grade

@@ -5,7 +5,7 @@
 #include "core/puzzle.h"
 #include "solver/conceal.h"
 
-namespace tessel {
+namespace tessel::grade {
 
 class PuzzleMaker {
  public:
@@ -47,4 +47,4 @@ class PuzzleMaker {
   solver::Solver solver_{Layout::Regular()};
 };
 
-}  // namespace tessel
+}  // namespace tessel::grade

@@ -4,7 +4,7 @@
 
 #include <set>
 
-namespace tessel {
+namespace tessel::grade {
 namespace {
 
 TEST(StepKind, IsFoundByKeyAndByName) {
@@ -58,4 +58,4 @@ TEST(Level, HasItsName) {
 }
 
 }  // namespace
-}  // namespace tessel
+}  // namespace tessel::grade

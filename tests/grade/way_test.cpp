@@ -4,7 +4,7 @@
 
 #include "tests/grade/made_puzzles.h"
 
-namespace tessel {
+namespace tessel::grade {
 namespace {
 
 void ExpectTrue(const Step& step, const Grid& solution) {
@@ -89,4 +89,4 @@ TEST(Way, OfAFullBoardHasNoRounds) {
 }
 
 }  // namespace
-}  // namespace tessel
+}  // namespace tessel::grade
