@@ -21,12 +21,18 @@ only_includes hints 'core|hints'
 only_includes grade 'core|hints|solver|grade'
 only_includes solver 'core|solver'
 only_includes formats 'core|layout|search|hints|solver|grade|formats'
+only_includes paper 'core|grade|paper'
 only_includes shell 'core|layout|search|hints|solver|grade|formats|paper|shell'
 only_includes tools 'core|layout|search|hints|solver|grade|maker|formats|paper|tools'
 
 if grep -rnE --include='*.h' --include='*.cpp' '^ *# *include *[<"]Q' \
-  core layout search solver hints grade formats shell tools --exclude-dir=qt; then
+  core layout search solver hints grade formats paper shell tools --exclude-dir=qt; then
   echo "^ Qt belongs to shell/qt/ alone" >&2
+  status=1
+fi
+if grep -rnE --include='*.h' --include='*.cpp' '^ *# *include *[<"]cairo' \
+  core layout search solver hints grade formats shell tools; then
+  echo "^ Cairo belongs to paper/ alone" >&2
   status=1
 fi
 exit $status

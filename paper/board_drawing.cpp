@@ -1,0 +1,276 @@
+#include "paper/board_drawing.h"
+
+#include <algorithm>
+#include <numbers>
+#include <string>
+
+#include "core/cage_edges.h"
+#include "paper/area_band.h"
+#include "paper/text.h"
+#include "paper/tints.h"
+
+namespace tessel::paper {
+
+namespace {
+
+// By the cell side.
+constexpr double kWall = 1.0 / 14;
+constexpr double kFrame = 1.0 / 9;
+constexpr double kThinLine = 1.0 / 55;
+constexpr double kCaptionBand = 0.62;
+constexpr double kMarkSize = 0.24;
+constexpr double kRing = 0.145;
+constexpr double kBand = 0.085;
+constexpr double kStroke = 1.0 / 42;  // of rings and crosses
+
+constexpr double kLeastThinLine = 0.35;  // points: finer ones get lost on paper
+constexpr double kThinLineGrey = 0.55;
+constexpr double kMarkGrey = 0.2;
+
+// The names that hints give to rows.
+constexpr std::string_view kRowLetters = "ABCDEFGHJ";
+
+struct Colour {
+  double red;
+  double green;
+  double blue;
+};
+constexpr Colour kHighlight{1.0, 0.93, 0.62};
+constexpr Colour kStrike{0.8, 0.08, 0.05};
+constexpr Colour kRingColour{0.05, 0.3, 0.65};
+using Grounds = std::array<Colour, kTints>;
+constexpr Grounds kGreyGrounds{
+    {{1, 1, 1}, {0.93, 0.93, 0.93}, {0.865, 0.865, 0.865}, {0.8, 0.8, 0.8}}};
+constexpr Grounds kColourGrounds{
+    {{1.0, 0.965, 0.82}, {0.86, 0.925, 0.985}, {0.885, 0.95, 0.86}, {0.985, 0.89, 0.88}}};
+
+class Drawing {
+ public:
+  Drawing(cairo_t* context, const Fonts& fonts, const BoardPicture& picture,
+          const BoardStyle& style, Point corner)
+      : context_(context),
+        fonts_(fonts),
+        picture_(picture),
+        style_(style),
+        side_(CellSideOf(style, picture.captions)) {
+    const double before = (kFrame / 2 + (picture.captions ? kCaptionBand : 0.0)) * side_;
+    origin_ = {corner.x + before, corner.y + before};
+  }
+
+  void Draw() const {
+    if (style_.tint != Tint::kNone) FillTints();
+    FillHighlights();
+    DrawBands();
+    DrawThinLines();
+    DrawMarks();
+    DrawDigits();
+    DrawWalls();
+    if (picture_.captions) DrawCaptions();
+  }
+
+ private:
+  Point CornerOf(int cell) const {
+    return {origin_.x + ColumnOf(cell) * side_, origin_.y + RowOf(cell) * side_};
+  }
+  Point CentreOf(int cell) const {
+    const Point corner = CornerOf(cell);
+    return {corner.x + side_ / 2, corner.y + side_ / 2};
+  }
+  // Where the keypad has that digit.
+  Point MarkCentre(int cell, int digit) const {
+    const Point centre = CentreOf(cell);
+    constexpr double step = 0.3;
+    return {centre.x + ((digit - 1) % 3 - 1) * step * side_,
+            centre.y + ((digit - 1) / 3 - 1) * step * side_};
+  }
+  void SetColour(const Colour& colour) const {
+    cairo_set_source_rgb(context_, colour.red, colour.green, colour.blue);
+  }
+  void SetGrey(double grey) const { SetColour({grey, grey, grey}); }
+
+  void FillCells(CellSet cells, const Colour& colour) const;
+  void FillTints() const;
+  void FillHighlights() const;
+  void DrawBands() const;
+  void DrawThinLines() const;
+  void DrawMarks() const;
+  void DrawMark(int cell, int digit) const;
+  void DrawDigits() const;
+  void DrawGlyphs(Face face, CellSet cells) const;
+  void DrawRing(Point centre, double radius) const;
+  void DrawWalls() const;
+  void DrawCaptions() const;
+
+  cairo_t* context_;
+  const Fonts& fonts_;
+  const BoardPicture& picture_;
+  const BoardStyle& style_;
+  double side_;
+  Point origin_;
+};
+
+// One path for all cells: filled one by one, they would show seams.
+void Drawing::FillCells(CellSet cells, const Colour& colour) const {
+  ForEach(cells, [&](int cell) {
+    const Point corner = CornerOf(cell);
+    cairo_rectangle(context_, corner.x, corner.y, side_, side_);
+  });
+  SetColour(colour);
+  cairo_fill(context_);
+}
+
+void Drawing::FillTints() const {
+  const auto tints = TintsOf(picture_.layout);
+  if (!tints) return;
+  const Grounds& grounds = style_.tint == Tint::kGrey ? kGreyGrounds : kColourGrounds;
+  for (int tint = 0; tint < kTints; ++tint) {
+    CellSet cells;
+    for (int cell = 0; cell < kCellCount; ++cell) {
+      const bool tinted = (*tints)[picture_.layout.CageOf(cell) - 1] == tint;
+      if (tinted) cells = cells | CellSet::Of(cell);
+    }
+    FillCells(cells, grounds[tint]);
+  }
+}
+
+// The inner frame tells highlighted cells where the ground's colour is not to be seen.
+void Drawing::FillHighlights() const {
+  FillCells(picture_.highlighted, kHighlight);
+  const double inset = (kWall / 2 + 0.045) * side_;
+  ForEach(picture_.highlighted, [&](int cell) {
+    const Point corner = CornerOf(cell);
+    cairo_rectangle(context_, corner.x + inset, corner.y + inset, side_ - 2 * inset,
+                    side_ - 2 * inset);
+  });
+  SetGrey(0.45);
+  cairo_set_line_width(context_, 0.02 * side_);
+  cairo_stroke(context_);
+}
+
+void Drawing::DrawBands() const {
+  bool dashed = false;
+  for (const CellSet area : picture_.areas) {
+    DrawBand(context_, area, origin_, side_, {kBand * side_, kWall * side_, dashed});
+    dashed = true;
+  }
+}
+
+void Drawing::DrawThinLines() const {
+  const double length = kSide * side_;
+  for (int line = 1; line < kSide; ++line) {
+    const double at = line * side_;
+    cairo_move_to(context_, origin_.x + at, origin_.y);
+    cairo_rel_line_to(context_, 0, length);
+    cairo_move_to(context_, origin_.x, origin_.y + at);
+    cairo_rel_line_to(context_, length, 0);
+  }
+  SetGrey(kThinLineGrey);
+  cairo_set_line_cap(context_, CAIRO_LINE_CAP_BUTT);
+  cairo_set_line_width(context_, std::max(kLeastThinLine, kThinLine * side_));
+  cairo_stroke(context_);
+}
+
+void Drawing::DrawMarks() const {
+  for (int cell = 0; cell < kCellCount; ++cell) {
+    if (picture_.digits[cell] != 0) continue;
+    for (int digit = 1; digit <= kSide; ++digit) DrawMark(cell, digit);
+  }
+}
+
+void Drawing::DrawMark(int cell, int digit) const {
+  const bool reason = Holds(picture_.reasons[cell], digit);
+  const bool struck = Holds(picture_.struck[cell], digit);
+  if (!reason && !struck && !Holds(picture_.marks[cell], digit)) return;
+  const TextStyle text{reason ? Face::kBold : Face::kRegular, kMarkSize * side_,
+                       reason ? 0.0 : kMarkGrey};
+  const Point centre = MarkCentre(cell, digit);
+  const double baseline = centre.y + fonts_.DigitHeight(text.face) * text.size / 2;
+  DrawText(context_, fonts_, std::string(1, static_cast<char>('0' + digit)), text,
+           {centre.x, baseline}, Align::kCentre);
+  if (reason) DrawRing(centre, kRing * side_);
+  if (!struck) return;
+  const double reach = 0.1 * side_;
+  for (const double slope : {-1.0, 1.0}) {
+    cairo_move_to(context_, centre.x - reach, centre.y - slope * reach);
+    cairo_line_to(context_, centre.x + reach, centre.y + slope * reach);
+  }
+  SetColour(kStrike);
+  cairo_set_line_cap(context_, CAIRO_LINE_CAP_ROUND);
+  cairo_set_line_width(context_, kStroke * side_);
+  cairo_stroke(context_);
+}
+
+void Drawing::DrawRing(Point centre, double radius) const {
+  cairo_new_sub_path(context_);
+  cairo_arc(context_, centre.x, centre.y, radius, 0, 2 * std::numbers::pi);
+  SetColour(kRingColour);
+  cairo_set_line_width(context_, kStroke * side_);
+  cairo_stroke(context_);
+}
+
+void Drawing::DrawDigits() const {
+  DrawGlyphs(Face::kBold, picture_.givens);
+  DrawGlyphs(Face::kRegular, kAllCells - picture_.givens);
+  ForEach(picture_.placed, [&](int cell) { DrawRing(CentreOf(cell), 0.4 * side_); });
+}
+
+void Drawing::DrawGlyphs(Face face, CellSet cells) const {
+  std::vector<cairo_glyph_t> glyphs;
+  const double size = style_.digitSize * side_;
+  const double left = fonts_.DigitWidth(face) * size / 2;
+  const double down = fonts_.DigitHeight(face) * size / 2;
+  ForEach(cells, [&](int cell) {
+    const int digit = picture_.digits[cell];
+    if (digit == 0) return;
+    const Point centre = CentreOf(cell);
+    glyphs.push_back({fonts_.DigitGlyph(face, digit), centre.x - left, centre.y + down});
+  });
+  if (glyphs.empty()) return;
+  fonts_.Select(context_, face, size);
+  SetGrey(0);
+  cairo_show_glyphs(context_, glyphs.data(), static_cast<int>(glyphs.size()));
+}
+
+void Drawing::DrawWalls() const {
+  for (const WallRun& run : CageWallRuns(picture_.layout)) {
+    cairo_move_to(context_, origin_.x + run.from.column * side_, origin_.y + run.from.row * side_);
+    cairo_line_to(context_, origin_.x + run.to.column * side_, origin_.y + run.to.row * side_);
+  }
+  SetGrey(0);
+  cairo_set_line_cap(context_, CAIRO_LINE_CAP_SQUARE);
+  cairo_set_line_width(context_, kWall * side_);
+  cairo_stroke(context_);
+  cairo_rectangle(context_, origin_.x, origin_.y, kSide * side_, kSide * side_);
+  cairo_set_line_join(context_, CAIRO_LINE_JOIN_MITER);
+  cairo_set_line_width(context_, kFrame * side_);
+  cairo_stroke(context_);
+}
+
+void Drawing::DrawCaptions() const {
+  const TextStyle text{Face::kRegular, 0.36 * side_, 0.25};
+  const double half = fonts_.DigitHeight(text.face) * text.size / 2;
+  const double away = (kFrame / 2 + kCaptionBand / 2) * side_;
+  for (int line = 0; line < kSide; ++line) {
+    const double middle = (line + 0.5) * side_;
+    DrawText(context_, fonts_, std::string(1, kRowLetters[line]), text,
+             {origin_.x - away, origin_.y + middle + half}, Align::kCentre);
+    DrawText(context_, fonts_, std::to_string(line + 1), text,
+             {origin_.x + middle, origin_.y - away + half}, Align::kCentre);
+  }
+}
+
+}  // namespace
+
+double CellSideOf(const BoardStyle& style, bool captions) {
+  return style.side / (kSide + kFrame + (captions ? kCaptionBand : 0.0));
+}
+
+void DrawBoard(cairo_t* context, const Fonts& fonts, const BoardPicture& picture,
+               const BoardStyle& style, Point corner) {
+  cairo_save(context);
+  UseOutlinesAsTheyAre(context);
+  Drawing(context, fonts, picture, style, corner).Draw();
+  cairo_restore(context);
+}
+
+}  // namespace tessel::paper
