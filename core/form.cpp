@@ -6,21 +6,13 @@
 
 namespace tessel {
 
-Form::Form(View& view)
-    : view_(view),
-      buttons_{{{"Saw", true},
-                {texts::kFill, false},
-                {texts::kConceal, false},
-                {"Solve", false},
-                {"Exit", true},
-                {"", true},
-                {texts::kHint, true},
-                {"Quit", true},
-                {"Restart", true},
-                {"Solution", true}}},
-      caption_(texts::kProgram),
-      textHint_(texts::kPressHint) {
-  boxes_[IndexOf(CheckBox::CheckPencilmarks)] = true;
+Form::Form(View& view) : view_(view), caption_(texts::kProgram), textHint_(texts::kPressHint) {
+  for (const ButtonTraits& traits : kButtonTable) {
+    buttons_[IndexOf(traits.button)] = {traits.caption, traits.enabledAtStart};
+  }
+  for (const CheckBoxTraits& traits : kCheckBoxTable) {
+    boxes_[IndexOf(traits.box)] = traits.checkedAtStart;
+  }
 }
 
 template <typename T>
@@ -100,8 +92,8 @@ void Form::SetCaption(const std::string& caption) {
 void Form::ShowSolveButtons(bool visible) {
   Assign(solveButtonsVisible_, visible, FormPart::kSolveButtons);
 }
-void Form::EnableSolveButtons(bool enabled) {
-  Assign(solveButtonsEnabled_, enabled, FormPart::kSolveButtons);
+void Form::SetRunning(std::optional<Button> button) {
+  Assign(running_, button, FormPart::kSolveButtons);
 }
 void Form::SetTextHint(const std::string& text) {
   Assign(textHint_, text, FormPart::kHintText);

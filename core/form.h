@@ -4,52 +4,15 @@
 
 #include <array>
 #include <cstddef>
-#include <cstdint>
+#include <optional>
 #include <string>
 
 #include "core/cell.h"
 #include "core/colour.h"
+#include "core/controls.h"
 #include "core/view.h"
 
 namespace tessel {
-
-enum class Button : std::uint8_t {
-  CommandSaw,
-  CommandGo,
-  CommandConceal,
-  CommandSolve,
-  CommandExit,
-  Command1,
-  CommandHint,
-  CommandQuit,
-  CommandRestart,
-  CommandSolution,
-};
-inline constexpr std::size_t kButtonCount = 10;
-
-enum class CheckBox : std::uint8_t {
-  Rotational,
-  MakeRegular,
-  ConcealRotational,
-  CheckVisualize,
-  CheckPencilmarks,
-};
-inline constexpr std::size_t kCheckBoxCount = 5;
-
-// Whether the control sits in the frame `SolveButtons`.
-constexpr bool IsSolveButton(Button button) {
-  return button >= Button::CommandHint;
-}
-constexpr bool IsSolveButton(CheckBox box) {
-  return box == CheckBox::CheckPencilmarks;
-}
-
-constexpr std::size_t IndexOf(Button button) {
-  return static_cast<std::size_t>(button);
-}
-constexpr std::size_t IndexOf(CheckBox box) {
-  return static_cast<std::size_t>(box);
-}
 
 struct ButtonLook {
   std::string caption;
@@ -110,10 +73,13 @@ class Form {
 
   bool SolveButtonsVisible() const { return solveButtonsVisible_; }
   void ShowSolveButtons(bool visible);
-  // Off while a generation command runs: the frame as a whole answers nothing then, whatever the
-  // enabled states of the controls in it.
-  bool SolveButtonsEnabled() const { return solveButtonsEnabled_; }
-  void EnableSolveButtons(bool enabled);
+
+  // The button whose command is at work: one of those that are long work, or none.
+  std::optional<Button> Running() const { return running_; }
+  void SetRunning(std::optional<Button> button);
+  // While a command runs, the frame as a whole answers nothing, whatever the enabled states of the
+  // controls in it.
+  bool SolveButtonsEnabled() const { return !running_; }
 
   const std::string& TextHint() const { return textHint_; }
   void SetTextHint(const std::string& text);
@@ -146,7 +112,7 @@ class Form {
   std::size_t text1SelectionStart_ = 0;
   std::size_t text1SelectionLength_ = 0;
   bool solveButtonsVisible_ = false;
-  bool solveButtonsEnabled_ = true;
+  std::optional<Button> running_;
 };
 
 }  // namespace tessel

@@ -13,7 +13,7 @@ enum class FormPart : std::uint8_t {
   kButton,         // index: of enum Button
   kCheckBox,       // index: of enum CheckBox
   kWindowCaption,
-  kSolveButtons,
+  kSolveButtons,  // the frame, and which command runs
   kHintText,
   kText1,
   kNotice,

@@ -7,35 +7,28 @@
 #include "search/try_out.h"
 #include "shell/puzzle_file.h"
 #include "shell/puzzle_saver.h"
+#include "shell/stage.h"
 #include "shell/tessel_main.h"
 
 namespace tessel {
 
 // Events come in while a command runs. The board and the frame of the solving mode answer none of
 // them, since they could meet a half-made layout; their own enabled states are left alone.
-Tessel_Main::CommandRun::CommandRun(Tessel_Main& main) : main_(main) {
-  main_.running_ = true;
-  main_.form_.EnableSolveButtons(false);
-  main_.form_.SetNotice("");
+Tessel_Main::RunningCommandScope::RunningCommandScope(Form& form, Button button) : form_(form) {
+  form_.SetRunning(button);
+  form_.SetNotice("");
 }
 
-Tessel_Main::CommandRun::~CommandRun() {
-  main_.form_.EnableSolveButtons(true);
-  main_.running_ = false;
+Tessel_Main::RunningCommandScope::~RunningCommandScope() {
+  form_.SetRunning(std::nullopt);
 }
 
 void Tessel_Main::CommandSaw_Click() {
   form_.SetCaption(texts::kProgram);
-  if (running_) return;
-  const CommandRun run(*this);
-  for (const Button button : {Button::CommandSaw, Button::CommandGo, Button::CommandConceal,
-                              Button::CommandSolve, Button::CommandExit}) {
-    form_.Enable(button, false);
-  }
+  const RunningCommandScope scope(form_, Button::CommandSaw);
+  ShowStage(form_, Stage::kSawing);
   RunSaw();
-  for (const Button button : {Button::CommandSaw, Button::CommandGo, Button::CommandExit}) {
-    form_.Enable(button, true);
-  }
+  ShowStage(form_, Stage::kLayoutMade);
 }
 
 void Tessel_Main::RunSaw() {
@@ -55,59 +48,41 @@ void Tessel_Main::RunSaw() {
   ShowStageTime(state_, form_, "Sawed");
 }
 
+// A second click, on "Stop", comes in while the first one's handler is still at work and leaves the
+// rest to it.
 void Tessel_Main::CommandGo_Click() {
   form_.SetCaption(texts::kProgram);
-  if (form_.Of(Button::CommandGo).caption != texts::kFill) {
+  if (form_.Running()) {
     state_.StopRequested = true;
     return;
   }
-  if (running_) return;
-  const CommandRun run(*this);
-  RunFill();
+  const RunningCommandScope scope(form_, Button::CommandGo);
+  for (int cell = 0; cell < kCellCount; ++cell) form_.SetCellText(cell, 0);
+  ShowStage(form_, Stage::kFilling);
+  state_.StopRequested = false;
+  ShowStage(form_, RunFill() ? Stage::kGridFilled : Stage::kLayoutMade);
 }
 
-void Tessel_Main::RunFill() {
-  for (int cell = 0; cell < kCellCount; ++cell) form_.SetCellText(cell, 0);
-  form_.Enable(Button::CommandSaw, false);
-  form_.SetButtonCaption(Button::CommandGo, texts::kStop);
-  form_.Enable(Button::CommandConceal, false);
-  form_.Enable(Button::CommandSolve, false);
-  form_.Enable(Button::CommandExit, false);
-  state_.StopRequested = false;
-  FillGenerator fill(state_, form_, view_, random_, clock_, search_);
-  if (fill.GenerateTessel()) form_.Enable(Button::CommandConceal, true);
-  form_.Enable(Button::CommandSaw, true);
-  form_.SetButtonCaption(Button::CommandGo, texts::kFill);
-  form_.Enable(Button::CommandExit, true);
+bool Tessel_Main::RunFill() {
+  return FillGenerator(state_, form_, view_, random_, clock_, search_).GenerateTessel();
 }
 
 void Tessel_Main::CommandConceal_Click() {
   form_.SetCaption(texts::kProgram);
-  if (form_.Of(Button::CommandConceal).caption != texts::kConceal) {
+  if (form_.Running()) {
     state_.StopRequested = true;
     return;
   }
-  if (running_) return;
-  const CommandRun run(*this);
-  RunConceal();
+  const RunningCommandScope scope(form_, Button::CommandConceal);
+  ShowStage(form_, Stage::kConcealing);
+  state_.StopRequested = false;
+  const bool concealed = RunConceal();
+  if (concealed) SaveTessel();
+  ShowStage(form_, concealed ? Stage::kPuzzleConcealed : Stage::kGridFilled);
 }
 
-void Tessel_Main::RunConceal() {
-  form_.Enable(Button::CommandSaw, false);
-  form_.Enable(Button::CommandGo, false);
-  form_.SetButtonCaption(Button::CommandConceal, texts::kStop);
-  form_.Enable(Button::CommandSolve, false);
-  form_.Enable(Button::CommandExit, false);
-  state_.StopRequested = false;
-  Concealer concealer(state_, form_, view_, random_, clock_, search_);
-  if (concealer.ConcealCells2ValidTessel()) {
-    SaveTessel();
-    form_.Enable(Button::CommandSolve, true);
-  }
-  form_.Enable(Button::CommandSaw, true);
-  form_.Enable(Button::CommandGo, true);
-  form_.SetButtonCaption(Button::CommandConceal, texts::kConceal);
-  form_.Enable(Button::CommandExit, true);
+bool Tessel_Main::RunConceal() {
+  return Concealer(state_, form_, view_, random_, clock_, search_).ConcealCells2ValidTessel();
 }
 
 // A puzzle that cannot be saved can be solved all the same; the foot of the window tells.

@@ -37,7 +37,7 @@ void Tessel_Main::Form_Load() {
 }
 
 void Tessel_Main::Click(Button button) {
-  if (!Answers(button)) return;
+  if (!AcceptsInput(button)) return;
   switch (button) {
     case Button::CommandSaw:
       return CommandSaw_Click();
@@ -63,26 +63,26 @@ void Tessel_Main::Click(Button button) {
 }
 
 void Tessel_Main::Toggle(CheckBox box) {
-  if (!Answers(box)) return;
+  if (!AcceptsInput(box)) return;
   form_.SetChecked(box, !form_.Checked(box));
   if (box == CheckBox::CheckPencilmarks) solving_.CheckPencilmarks_Click();
 }
 
 void Tessel_Main::Grid_MouseUp(int cell, MouseButton button, int /*shift*/, double x, double y) {
-  if (running_ || asking_ || cell < 0 || cell >= kCellCount) return;
+  if (form_.Running() || asking_ || cell < 0 || cell >= kCellCount) return;
   solving_.Grid_MouseUp(cell, button, {x, y});
 }
 
-bool Tessel_Main::Answers(Button button) const {
+bool Tessel_Main::AcceptsInput(Button button) const {
   if (asking_ || !form_.Of(button).enabled) return false;
-  return !IsSolveButton(button) || SolveButtonsAnswer();
+  return !IsInSolveFrame(button) || SolveFrameAcceptsInput();
 }
 
-bool Tessel_Main::Answers(CheckBox box) const {
-  return !asking_ && (!IsSolveButton(box) || SolveButtonsAnswer());
+bool Tessel_Main::AcceptsInput(CheckBox box) const {
+  return !asking_ && (!IsInSolveFrame(box) || SolveFrameAcceptsInput());
 }
 
-bool Tessel_Main::SolveButtonsAnswer() const {
+bool Tessel_Main::SolveFrameAcceptsInput() const {
   return form_.SolveButtonsVisible() && form_.SolveButtonsEnabled();
 }
 

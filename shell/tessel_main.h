@@ -41,15 +41,15 @@ class Tessel_Main {
 
  private:
   // Stands for the run of a generation command, which nothing else may disturb.
-  class CommandRun {
+  class RunningCommandScope {
    public:
-    explicit CommandRun(Tessel_Main& main);
-    CommandRun(const CommandRun&) = delete;
-    CommandRun& operator=(const CommandRun&) = delete;
-    ~CommandRun();
+    RunningCommandScope(Form& form, Button button);
+    RunningCommandScope(const RunningCommandScope&) = delete;
+    RunningCommandScope& operator=(const RunningCommandScope&) = delete;
+    ~RunningCommandScope();
 
    private:
-    Tessel_Main& main_;
+    Form& form_;
   };
 
   // generation_commands.cpp
@@ -57,17 +57,17 @@ class Tessel_Main {
   void CommandGo_Click();
   void CommandConceal_Click();
   void RunSaw();
-  void RunFill();
-  void RunConceal();
+  bool RunFill();     // whether it completed
+  bool RunConceal();  // likewise
   void SaveTessel();
 
   // tessel_main.cpp
   void CommandQuit_Click();
   void CommandExit_Click();
   void Command1_Click();
-  bool Answers(Button button) const;
-  bool Answers(CheckBox box) const;
-  bool SolveButtonsAnswer() const;
+  bool AcceptsInput(Button button) const;
+  bool AcceptsInput(CheckBox box) const;
+  bool SolveFrameAcceptsInput() const;
   bool Ask(const char* question, const char* title);
 
   View& view_;
@@ -81,8 +81,7 @@ class Tessel_Main {
   Sounds sounds_;
   SolvingMode solving_;
   ExactCoverSearch search_;
-  bool running_ = false;  // a generation command is at work
-  bool asking_ = false;   // a question is open
+  bool asking_ = false;  // a question is open
 };
 
 }  // namespace tessel

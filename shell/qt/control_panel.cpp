@@ -12,45 +12,6 @@ namespace tessel {
 
 namespace {
 
-struct ButtonPlan {
-  Button button;
-  const char* name;
-  const char* keys;
-  const char* tip;
-};
-constexpr ButtonPlan kButtonPlans[] = {
-    {Button::CommandSaw, "CommandSaw", "Alt+S", "Saw the board into nine new cages"},
-    {Button::CommandGo, "CommandGo", "Alt+F", "Fill the cages with a solution, or stop filling"},
-    {Button::CommandConceal, "CommandConceal", "Alt+C",
-     "Conceal cells and save the puzzle, or stop concealing"},
-    {Button::CommandSolve, "CommandSolve", "Alt+L", "Play the puzzle"},
-    {Button::CommandExit, "CommandExit", "Alt+X", "Leave the program"},
-    {Button::CommandHint, "CommandHint", "Alt+H", "Tell the next logical step"},
-    {Button::CommandQuit, "CommandQuit", "Alt+Q", "Stop playing this puzzle"},
-    {Button::CommandRestart, "CommandRestart", "Alt+R", "Begin this puzzle again"},
-    {Button::CommandSolution, "CommandSolution", "Alt+N", "Show the solution"},
-};
-
-struct BoxPlan {
-  CheckBox box;
-  const char* name;
-  const char* caption;
-  const char* keys;
-  const char* tip;
-};
-constexpr BoxPlan kBoxPlans[] = {
-    {CheckBox::Rotational, "Rotational", "Saw 180° Rotational", "Alt+O",
-     "Cages that look the same after half a turn"},
-    {CheckBox::MakeRegular, "MakeRegular", "Make regular Sudoku", "Alt+M",
-     "The nine 3×3 boxes instead of sawn cages"},
-    {CheckBox::ConcealRotational, "ConcealRotational", "Conceal 180° Rotational", "Alt+T",
-     "Conceal cells in pairs that face each other"},
-    {CheckBox::CheckVisualize, "CheckVisualize", "Visualize progress", "Alt+V",
-     "Leave this unchecked for faster execution"},
-    {CheckBox::CheckPencilmarks, "CheckPencilmarks", "Update Pencilmarks", "Alt+U",
-     "Take a placed digit out of the marks of its row, column and cage"},
-};
-
 // About as long as a hint can become.
 constexpr char kLongHint[] =
     "The cells in column 8 containing candidate 8 all belong to the same cage, therefore that "
@@ -139,27 +100,31 @@ ControlPanel::ControlPanel(QWidget* parent) : QWidget(parent) {
 }
 
 void ControlPanel::MakeButtons() {
-  for (const ButtonPlan& plan : kButtonPlans) {
-    QFrame* parent = IsSolveButton(plan.button) ? solveButtons_ : generation_;
-    auto* button = new QPushButton(parent);
-    button->setObjectName(plan.name);
-    button->setToolTip(WithKeys(plan.tip, plan.keys));
-    connect(button, &QPushButton::clicked, this, [this, plan] { emit ButtonClicked(plan.button); });
-    ClickOn(button, plan.keys);
-    buttons_[tessel::IndexOf(plan.button)] = button;
+  for (const ButtonTraits& traits : kButtonTable) {
+    if (traits.group == ControlGroup::kNotShown) continue;
+    auto* button = new QPushButton(FrameOf(traits.group));
+    button->setObjectName(traits.name);
+    button->setToolTip(WithKeys(traits.tip, traits.keys));
+    connect(button, &QPushButton::clicked, this,
+            [this, which = traits.button] { emit ButtonClicked(which); });
+    ClickOn(button, traits.keys);
+    buttons_[tessel::IndexOf(traits.button)] = button;
   }
 }
 
 void ControlPanel::MakeBoxes() {
-  for (const BoxPlan& plan : kBoxPlans) {
-    QFrame* parent = IsSolveButton(plan.box) ? solveButtons_ : generation_;
-    auto* box = new QCheckBox(QString::fromUtf8(plan.caption), parent);
-    box->setObjectName(plan.name);
-    box->setToolTip(WithKeys(plan.tip, plan.keys));
-    connect(box, &QCheckBox::clicked, this, [this, plan] { emit BoxClicked(plan.box); });
-    ClickOn(box, plan.keys);
-    boxes_[tessel::IndexOf(plan.box)] = box;
+  for (const CheckBoxTraits& traits : kCheckBoxTable) {
+    auto* box = new QCheckBox(QString::fromUtf8(traits.caption), FrameOf(traits.group));
+    box->setObjectName(traits.name);
+    box->setToolTip(WithKeys(traits.tip, traits.keys));
+    connect(box, &QCheckBox::clicked, this, [this, which = traits.box] { emit BoxClicked(which); });
+    ClickOn(box, traits.keys);
+    boxes_[tessel::IndexOf(traits.box)] = box;
   }
+}
+
+QFrame* ControlPanel::FrameOf(ControlGroup group) const {
+  return group == ControlGroup::kSolving ? solveButtons_ : generation_;
 }
 
 void ControlPanel::MakeHelp() {
@@ -182,22 +147,23 @@ QList<QWidget*> ControlPanel::SolveControls() const {
           Of(Button::CommandExit)};
 }
 
-void ControlPanel::Show(const Form& form, std::optional<Button> running) {
-  for (std::size_t i = 0; i < kButtonCount; ++i) {
-    const auto button = static_cast<Button>(i);
-    if (Of(button) == nullptr) continue;
-    Of(button)->setText(QString::fromStdString(form.Of(button).caption));
-    Of(button)->setEnabled(form.Of(button).enabled);
-    MarkRunning(button, button == running);
+void ControlPanel::Show(const Form& form) {
+  for (const ButtonTraits& traits : kButtonTable) {
+    if (traits.group != ControlGroup::kNotShown) ShowButton(form, traits.button);
   }
-  for (std::size_t i = 0; i < kCheckBoxCount; ++i) {
-    const auto box = static_cast<CheckBox>(i);
-    Of(box)->setChecked(form.Checked(box));
+  for (const CheckBoxTraits& traits : kCheckBoxTable) {
+    Of(traits.box)->setChecked(form.Checked(traits.box));
   }
   textHint_->setText(QString::fromStdString(form.TextHint()));
   textHint_->setAccessibleName("Hint text: " + textHint_->text());
   solveButtons_->setVisible(form.SolveButtonsVisible());
   solveButtons_->setEnabled(form.SolveButtonsEnabled());
+}
+
+void ControlPanel::ShowButton(const Form& form, Button button) {
+  Of(button)->setText(QString::fromStdString(form.Of(button).caption));
+  Of(button)->setEnabled(form.Of(button).enabled);
+  MarkRunning(button, button == form.Running());
 }
 
 void ControlPanel::MarkRunning(Button button, bool running) {

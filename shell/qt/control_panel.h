@@ -23,8 +23,8 @@ class ControlPanel final : public QWidget {
 
   explicit ControlPanel(QWidget* parent = nullptr);
 
-  // Shows what the form says. `running` is the button whose command is at work.
-  void Show(const Form& form, std::optional<Button> running);
+  // Shows what the form says.
+  void Show(const Form& form);
 
   void Arrange(Arrangement arrangement);
   // The room that the panel takes in that arrangement, whichever it has now.
@@ -57,6 +57,8 @@ class ControlPanel final : public QWidget {
   void Measure();
   void ArrangeBeside();
   void ArrangeBelow();
+  QFrame* FrameOf(ControlGroup group) const;
+  void ShowButton(const Form& form, Button button);
   void MarkRunning(Button button, bool running);
 
   std::array<QPushButton*, kButtonCount> buttons_{};
@@ -67,7 +69,7 @@ class ControlPanel final : public QWidget {
   QLabel* textHint_ = nullptr;
   Arrangement arrangement_ = Arrangement::kBeside;
   std::array<QSize, 2> room_;
-  std::optional<Button> running_;
+  std::optional<Button> running_;  // the button that is marked so
 };
 
 }  // namespace tessel

@@ -151,9 +151,9 @@ void TesselWindow::Sync() {
 void TesselWindow::SyncControls() {
   const Form& form = logic_->form();
   QWidget* const focused = focusWidget();
-  panel_->Show(form, running_);
+  panel_->Show(form);
   if (focused != nullptr && focused != focusWidget()) {
-    QWidget* const stop = running_ ? panel_->Of(*running_) : nullptr;
+    QWidget* const stop = form.Running() ? panel_->Of(*form.Running()) : nullptr;
     (stop != nullptr && stop->isEnabled() ? stop : board_)->setFocus(Qt::TabFocusReason);
   }
   setWindowTitle(QString::fromStdString(form.Caption()));
@@ -164,15 +164,10 @@ void TesselWindow::SyncControls() {
 void TesselWindow::Press(Button button) {
   QPushButton* const pressed = panel_->Of(button);
   const bool hadFocus = pressed->hasFocus();
-  const bool nested = running_.has_value();
-  if (!nested && button <= Button::CommandConceal) {
-    running_ = button;
-    changedControls_ = true;
-    pump_.Done();  // the press itself was delivered just now
-  }
+  const bool starts = TraitsOf(button).isLongWork && !logic_->form().Running();
+  if (starts) pump_.Done();  // the press itself was delivered just now
   const bool wasSolving = logic_->form().SolveButtonsVisible();
   logic_->Click(button);
-  if (!nested) running_.reset();
   changedControls_ = true;
   Sync();
   if (hadFocus && board_->hasFocus() && pressed->isEnabled() && pressed->isVisible()) {

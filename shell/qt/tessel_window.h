@@ -3,7 +3,6 @@
 
 #include <QWidget>
 #include <bitset>
-#include <optional>
 
 #include "core/view.h"
 #include "shell/qt/board_widget.h"
@@ -60,7 +59,6 @@ class TesselWindow final : public QWidget, public View {
   bool changedCaptions_ = false;
   bool changedControls_ = false;
 
-  std::optional<Button> running_;
   EventPump pump_;
 };
 

@@ -170,7 +170,7 @@ TEST_F(FormTest, TheOnlyOnesOfTheirKindReportIndexZero) {
               ElementsAre(Change{FormPart::kWindowCaption, 0}));
   EXPECT_THAT(ChangesOf([&] { form.ShowSolveButtons(true); }),
               ElementsAre(Change{FormPart::kSolveButtons, 0}));
-  EXPECT_THAT(ChangesOf([&] { form.EnableSolveButtons(false); }),
+  EXPECT_THAT(ChangesOf([&] { form.SetRunning(Button::CommandSaw); }),
               ElementsAre(Change{FormPart::kSolveButtons, 0}));
   EXPECT_THAT(ChangesOf([&] { form.SetTextHint("Naked single"); }),
               ElementsAre(Change{FormPart::kHintText, 0}));

@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <string>
 
+#include "shell/stage.h"
 #include "tests/e2e/expected_board.h"
 #include "tests/e2e/running_program.h"
 #include "tests/e2e/window_twin.h"
@@ -21,8 +22,6 @@ struct Generation {
 inline constexpr Generation kSaw{"CommandSaw", "Sawed"};
 inline constexpr Generation kFill{"CommandGo", "Filled"};
 inline constexpr Generation kConceal{"CommandConceal", "Concealed"};
-
-enum class Stage { kLayoutNeeded, kLayoutMade, kGridFilled, kPuzzleConcealed };
 
 class User {
  public:

@@ -164,11 +164,11 @@ Sight::Sight(const Form& form)
     : caption(form.Caption()), notice(form.Notice()), solving(form.SolveButtonsVisible()) {
   if (solving) hintText = form.TextHint();
   for (const Button button : kAllButtons) {
-    const bool shown = !IsSolveButton(button) || (solving && form.SolveButtonsEnabled());
+    const bool shown = !IsInSolveFrame(button) || (solving && form.SolveButtonsEnabled());
     if (shown && form.Of(button).enabled) buttons.push_back(form.Of(button).caption);
   }
   for (const CheckBox box : kAllBoxes) {
-    if (form.Checked(box) && (solving || !IsSolveButton(box)))
+    if (form.Checked(box) && (solving || !IsInSolveFrame(box)))
       ticked.push_back(Quoted(CaptionOf(box)));
   }
   for (int line = 0; line < kSide; ++line) {

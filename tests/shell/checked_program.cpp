@@ -47,7 +47,7 @@ void CheckedProgram::Click(Button button) {
 }
 
 void CheckedProgram::Toggle(CheckBox box) {
-  const bool answers = IsSolveButton(box) ? SolveButtonsAnswer() : !asking_;
+  const bool answers = IsInSolveFrame(box) ? SolveButtonsAnswer() : !asking_;
   const bool before = form_.Checked(box);
   program_.main.Toggle(box);
   Expect(form_.Checked(box) == (answers ? !before : before), "a box answers when it should");
@@ -114,7 +114,7 @@ bool CheckedProgram::Answers(Button button) const {
 }
 
 void CheckedProgram::Begin(Button button) {
-  if (button > Button::CommandConceal) return;
+  if (!TraitsOf(button).isLongWork) return;
   running_ = button;
   stopped_ = false;
   pumps_ = 0;
@@ -177,24 +177,11 @@ void CheckedProgram::Check() {
 
 // In every state.
 void CheckedProgram::CheckButtons() {
-  std::string_view expected;
-  switch (stage_) {
-    case Stage::kLayoutNeeded:
-      expected = kLayoutNeeded;
-      break;
-    case Stage::kLayoutMade:
-      expected = kLayoutMade;
-      break;
-    case Stage::kGridFilled:
-      expected = kGridFilled;
-      break;
-    case Stage::kPuzzleConcealed:
-      expected = kPuzzleConcealed;
-      break;
-  }
-  if (running_ == Button::CommandSaw) expected = kSawing;
-  if (running_ == Button::CommandGo) expected = kFilling;
-  if (running_ == Button::CommandConceal) expected = kConcealing;
+  const Stage stage = running_ == Button::CommandSaw       ? Stage::kSawing
+                      : running_ == Button::CommandGo      ? Stage::kFilling
+                      : running_ == Button::CommandConceal ? Stage::kConcealing
+                                                           : stage_;
+  const std::string_view expected = kEnabledButtons[static_cast<std::size_t>(stage)];
   Expect(EnabledButtons(form_) == expected, "the enabled buttons fit the stage");
 }
 

@@ -5,12 +5,10 @@
 #include <optional>
 #include <string>
 
+#include "shell/stage.h"
 #include "tests/fakes/test_program.h"
 
 namespace tessel {
-
-// The stages of the generation, in their order.
-enum class Stage : std::uint8_t { kLayoutNeeded, kLayoutMade, kGridFilled, kPuzzleConcealed };
 
 class CheckedProgram {
  public:
@@ -33,6 +31,7 @@ class CheckedProgram {
   const std::string& Complaint() const { return complaint_; }
   // Whether the user has left the program.
   bool Ended() const { return program_.view.ends > 0 || closed_; }
+  // The stage reached so far: none of those of a running command.
   Stage GenerationStage() const { return stage_; }
   std::optional<Button> Running() const { return running_; }
   bool Solving() const { return solving_; }
@@ -64,7 +63,7 @@ class CheckedProgram {
   const Form& form_;
   const GameState& state_;
 
-  Stage stage_ = Stage::kLayoutNeeded;
+  Stage stage_ = Stage::kLayoutNeeded;  // the one reached, whatever runs
   std::optional<Button> running_;
   bool stopped_ = false;  // the running command was told to stop
   bool asking_ = false;

@@ -33,7 +33,7 @@ inline void DisturbCommand(TestProgram& program, std::initializer_list<Button> s
   ClickEveryButtonBut(program, stop);
   for (const CheckBox box : kCheckBoxes) {
     program.main.Toggle(box);
-    if (!IsSolveButton(box)) program.main.Toggle(box);
+    if (!IsInSolveFrame(box)) program.main.Toggle(box);
   }
   ClickEveryCell(program);
   program.main.Form_QueryUnload();

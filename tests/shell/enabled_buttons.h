@@ -17,6 +17,10 @@ inline constexpr std::string_view kSawing = "";
 inline constexpr std::string_view kFilling = "Fill=Stop";
 inline constexpr std::string_view kConcealing = "Conceal=Stop";
 
+// In the order of the stages.
+inline constexpr std::array kEnabledButtons{
+    kLayoutNeeded, kLayoutMade, kGridFilled, kPuzzleConcealed, kSawing, kFilling, kConcealing};
+
 inline std::string EnabledButtons(const Form& form) {
   constexpr std::array<std::string_view, 5> names{"Saw", "Fill", "Conceal", "Solve", "Exit"};
   std::string list;
