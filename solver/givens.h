@@ -95,15 +95,24 @@ bool HasOther(const Tables& tables, Workspace& work, const Givens& givens, int c
 
 template <typename Lanes>
 constexpr Kernel KernelOf() {
-  return {Clear<Lanes>,
-          Place<Lanes>,
-          [](const Tables& tables, Workspace& work, const Request& request) {
-            return Search<Lanes>(tables, work, request).Run();
+  return {
+      .clear = Clear<Lanes>,
+      .place = Place<Lanes>,
+      .placeSingles =
+          [](const Tables& tables, Workspace& work, Level& level) {
+            return Propagation<Lanes>(tables, work, level).PlaceSingles();
           },
-          Give<Lanes>,
-          HasOther<Lanes>,
-          Take<Lanes>,
-          PutBack<Lanes>};
+      .removeLocked =
+          [](const Tables& tables, Workspace& work, Level& level) {
+            return Propagation<Lanes>(tables, work, level).RemoveLocked();
+          },
+      .search = [](const Tables& tables, Workspace& work,
+                   const Request& request) { return Search<Lanes>(tables, work, request).Run(); },
+      .give = Give<Lanes>,
+      .hasOther = HasOther<Lanes>,
+      .take = Take<Lanes>,
+      .putBack = PutBack<Lanes>,
+  };
 }
 
 }  // namespace tessel::solver

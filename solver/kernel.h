@@ -54,11 +54,17 @@ struct Givens {
   std::uint8_t sizes[kSide];           // and their number
 };
 
+enum class Standing : std::uint8_t { kOpen, kSolved, kContradiction };
+
 struct Kernel {
   // Makes the level an empty board.
   void (*clear)(const Tables& tables, Level& level);
   // Places digit 0..8 in a cell. False when it cannot stand there; the level is left as it is.
   bool (*place)(const Tables& tables, Level& level, int cell, int digit);
+  // The passes that a search is made of, to be tested one by one: places singles until there are
+  // none, and takes out locked candidates, if it finds any.
+  Standing (*placeSingles)(const Tables& tables, Workspace& work, Level& level);
+  bool (*removeLocked)(const Tables& tables, Workspace& work, Level& level);
   // Searches on from levels[0].
   Result (*search)(const Tables& tables, Workspace& work, const Request& request);
   // Makes the complete solution, digits 1..9, the givens.

@@ -27,6 +27,9 @@ class Avx2Lanes {
   friend Avx2Lanes operator|(Avx2Lanes a, Avx2Lanes b) {
     return {_mm256_or_si256(a.low_, b.low_), _mm256_or_si256(a.high_, b.high_)};
   }
+  friend Avx2Lanes operator^(Avx2Lanes a, Avx2Lanes b) {
+    return {_mm256_xor_si256(a.low_, b.low_), _mm256_xor_si256(a.high_, b.high_)};
+  }
   friend Avx2Lanes operator-(Avx2Lanes a, Avx2Lanes b) {
     return {_mm256_andnot_si256(b.low_, a.low_), _mm256_andnot_si256(b.high_, a.high_)};
   }
@@ -38,15 +41,17 @@ class Avx2Lanes {
     const __m256i zero = _mm256_setzero_si256();
     return MaskOf(_mm256_cmpeq_epi16(low_, zero), _mm256_cmpeq_epi16(high_, zero));
   }
-  // The lanes with one bit at most.
-  std::uint32_t AtMostOne() const {
-    const __m256i ones = _mm256_set1_epi16(-1);
-    const Avx2Lanes less{_mm256_add_epi16(low_, ones), _mm256_add_epi16(high_, ones)};
-    return (*this & less).Empty();
-  }
+  // The lanes with one bit at most, or two.
+  std::uint32_t AtMostOne() const { return WithoutLowest().Empty(); }
+  std::uint32_t AtMostTwo() const { return WithoutLowest().AtMostOne(); }
 
  private:
   Avx2Lanes(__m256i low, __m256i high) : low_(low), high_(high) {}
+
+  Avx2Lanes WithoutLowest() const {
+    const __m256i ones = _mm256_set1_epi16(-1);
+    return *this & Avx2Lanes(_mm256_add_epi16(low_, ones), _mm256_add_epi16(high_, ones));
+  }
 
   // Packing takes the halves of both parts in turns, which the permutation undoes.
   static std::uint32_t MaskOf(__m256i low, __m256i high) {

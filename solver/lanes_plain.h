@@ -26,6 +26,10 @@ class PlainLanes {
     for (int i = 0; i < kParts; ++i) a.parts_[i] |= b.parts_[i];
     return a;
   }
+  friend PlainLanes operator^(PlainLanes a, const PlainLanes& b) {
+    for (int i = 0; i < kParts; ++i) a.parts_[i] ^= b.parts_[i];
+    return a;
+  }
   friend PlainLanes operator-(PlainLanes a, const PlainLanes& b) {
     for (int i = 0; i < kParts; ++i) a.parts_[i] &= ~b.parts_[i];
     return a;
@@ -47,16 +51,19 @@ class PlainLanes {
     for (int i = 0; i < kParts; ++i) zero[i] = Part(parts_[i] == 0);
     return MaskOf(zero);
   }
-  // The lanes with one bit at most.
-  std::uint32_t AtMostOne() const {
-    Part few[kParts];
-    for (int i = 0; i < kParts; ++i) few[i] = Part((parts_[i] & (parts_[i] - 1)) == 0);
-    return MaskOf(few);
-  }
+  // The lanes with one bit at most, or two.
+  std::uint32_t AtMostOne() const { return WithoutLowest().Empty(); }
+  std::uint32_t AtMostTwo() const { return WithoutLowest().AtMostOne(); }
 
  private:
   static constexpr int kParts = 4;
   using Part = std::uint16_t __attribute__((vector_size(16)));
+
+  PlainLanes WithoutLowest() const {
+    PlainLanes fewer;
+    for (int i = 0; i < kParts; ++i) fewer.parts_[i] = parts_[i] & (parts_[i] - 1);
+    return fewer;
+  }
 
   // From lanes that are all ones or zero: a bit of its own for each lane of a half, added up.
   static std::uint32_t MaskOf(const Part (&chosen)[kParts]) {

@@ -17,8 +17,6 @@ template <typename Lanes>
   level.done[digit] |= tables.housesOf[cell];
 }
 
-enum class Standing : std::uint8_t { kOpen, kSolved, kContradiction };
-
 template <typename Lanes>
 class Propagation {
  public:
@@ -36,14 +34,11 @@ class Propagation {
   Standing PlaceSingles() {
     while (true) {
       const Singles singles = FindSingles();
-      if (singles.contradiction) return Standing::kContradiction;
       if (singles.digits == 0 && singles.nakedRows == 0) {
-        return level_.done[0] == kHouseLanes && Lanes::Load(level_.open).Empty() == ~0U
-                   ? Standing::kSolved
-                   : Standing::kOpen;
+        if (singles.emptyCell) return Standing::kContradiction;
+        return Lanes::Load(level_.open).Empty() == ~0U ? Standing::kSolved : Standing::kOpen;
       }
-      PlaceHidden(singles);
-      if (singles.nakedRows != 0) PlaceNaked(singles);
+      if (singles.emptyCell || !Place(singles)) return Standing::kContradiction;
     }
   }
 
@@ -63,9 +58,9 @@ class Propagation {
 
  private:
   struct Singles {
-    bool contradiction = false;
-    std::uint32_t digits = 0;       // bit d: digit d has hidden singles
-    std::uint32_t hidden[kDigits];  // for each digit, the houses in which it has one place
+    bool emptyCell = false;         // a cell has no candidate
+    std::uint32_t digits = 0;       // bit d: digit d has houses with one place at most
+    std::uint32_t hidden[kDigits];  // for each digit: these
     std::uint32_t nakedRows = 0;    // the rows with naked singles
     Places naked;
   };
@@ -76,52 +71,71 @@ class Propagation {
     const Lanes open = Lanes::Load(level_.open);
     Lanes some = open - open;
     Lanes several = some;
-    std::uint32_t wrong = 0;
     for (int digit = 0; digit < kDigits; ++digit) {
       const Lanes places = Lanes::Load(level_.places[digit]) & open;
       places.Store(level_.places[digit]);
-      const std::uint32_t done = level_.done[digit];
-      wrong |= (places.Empty() & kHouseLanes) ^ done;
-      singles.hidden[digit] = places.AtMostOne() & kHouseLanes & ~done;
+      singles.hidden[digit] = places.AtMostOne() & kHouseLanes & ~level_.done[digit];
       singles.digits |= std::uint32_t{singles.hidden[digit] != 0} << digit;
       several = several | (some & places);
       some = some | places;
     }
-    wrong |= ~(open - some).Empty();
-    singles.contradiction = wrong != 0;
+    singles.emptyCell = (open - some).Empty() != ~0U;
     const Lanes naked = open - several;
     singles.nakedRows = ~naked.Empty() & kRowLanes;
     naked.Store(singles.naked);
     return singles;
   }
 
-  // A place that an earlier one has taken away is passed over: its house has none left then, which
-  // the next look finds.
-  [[gnu::always_inline]] void PlaceHidden(const Singles& singles) {
+  // False when a house has no place left for a digit, or singles exclude each other.
+  [[gnu::always_inline]] bool Place(const Singles& singles) {
+    std::uint64_t filled[2] = {0, 0};
+    Lanes open = Lanes::Load(level_.open);
+    const auto isFilled = [&](int cell) { return (filled[cell / 64] >> cell % 64 & 1U) != 0; };
+    const auto fill = [&](int cell, int digit) {
+      filled[cell / 64] |= std::uint64_t{1} << cell % 64;
+      open = open - Lanes::Load(tables_.only[cell]);
+      work_.digits[cell] = static_cast<std::uint8_t>(digit + 1);
+    };
     for (std::uint32_t digits = singles.digits; digits != 0; digits &= digits - 1) {
       const int digit = __builtin_ctz(digits);
-      for (std::uint32_t left = singles.hidden[digit]; left != 0; left &= left - 1) {
+      Places& memory = level_.places[digit];
+      Lanes places = Lanes::Load(memory);
+      std::uint32_t done = level_.done[digit];
+      for (std::uint32_t left = singles.hidden[digit]; left != 0;) {
         const int house = __builtin_ctz(left);
-        const unsigned bits = level_.places[digit].lane[house] & level_.open.lane[house];
-        if (bits != 0) Place(tables_.cellAt[house][__builtin_ctz(bits)], digit);
+        const unsigned bits = memory.lane[house];
+        if (bits == 0) return false;
+        const int cell = tables_.cellAt[house][__builtin_ctz(bits)];
+        const std::uint32_t houses = tables_.housesOf[cell];
+        if ((done & houses) != 0 || isFilled(cell)) return false;
+        done |= houses;
+        left &= ~houses;
+        fill(cell, digit);
+        places = places - Lanes::Load(tables_.withPeers[cell]);
       }
+      places.Store(memory);
+      level_.done[digit] = done;
     }
-  }
-
-  [[gnu::always_inline]] void PlaceNaked(const Singles& singles) {
     for (std::uint32_t rows = singles.nakedRows; rows != 0; rows &= rows - 1) {
       const int row = __builtin_ctz(rows);
-      for (int digit = 0; digit < kDigits; ++digit) {
-        const unsigned bits =
-            level_.places[digit].lane[row] & level_.open.lane[row] & singles.naked.lane[row];
-        if (bits != 0) Place(tables_.cellAt[row][__builtin_ctz(bits)], digit);
+      for (unsigned cells = singles.naked.lane[row]; cells != 0; cells &= cells - 1) {
+        const int column = __builtin_ctz(cells);
+        const int cell = tables_.cellAt[row][column];
+        if (isFilled(cell)) continue;
+        std::uint32_t digits = 0;
+        for (int digit = 0; digit < kDigits; ++digit) {
+          digits |= (std::uint32_t{level_.places[digit].lane[row]} >> column & 1U) << digit;
+        }
+        if (digits == 0) return false;
+        const int digit = __builtin_ctz(digits);
+        fill(cell, digit);
+        level_.done[digit] |= tables_.housesOf[cell];
+        Places& memory = level_.places[digit];
+        (Lanes::Load(memory) - Lanes::Load(tables_.withPeers[cell])).Store(memory);
       }
     }
-  }
-
-  [[gnu::always_inline]] void Place(int cell, int digit) {
-    Fill<Lanes>(tables_, level_, cell, digit);
-    work_.digits[cell] = static_cast<std::uint8_t>(digit + 1);
+    open.Store(level_.open);
+    return true;
   }
 
   [[gnu::always_inline]] std::uint32_t ChangedDigits() {

@@ -62,24 +62,40 @@ class Search {
     (Lanes::Load(places) - Lanes::Load(tables_.only[cell])).Store(places);
   }
 
-  // A cell with two candidates; without one, a digit in the house that leaves it the fewest places.
+  // A cell with the fewest candidates, or a house with two places for a digit if cells have more.
   Choice Choose() {
-    const Level& level = Top();
-    const Lanes open = Lanes::Load(level.open);
-    Lanes one = open - open;
-    Lanes two = one;
-    Lanes three = one;
-    for (int digit = 0; digit < kDigits; ++digit) {
-      const Lanes places = Lanes::Load(level.places[digit]);
-      three = three | (two & places);
-      two = two | (one & places);
-      one = one | places;
+    const Lanes open = Lanes::Load(Top().open);
+    const Lanes none = open - open;
+    Lanes ones = none, twos = none, fours = none, eights = none;  // the digits of the counts
+    for (const Places& of : Top().places) {
+      const Lanes places = Lanes::Load(of);
+      const Lanes carry = ones & places;
+      ones = ones ^ places;
+      const Lanes carry2 = twos & carry;
+      twos = twos ^ carry;
+      eights = eights | (fours & carry2);
+      fours = fours ^ carry2;
     }
-    Places pairs;
-    (two - three).Store(pairs);
-    const std::uint32_t rows = ~(two - three).Empty() & kRowLanes;
-    if (rows != 0) return InCell(pairs, rows);
-    return InHouse();
+    if ((open - (fours | eights | (ones & twos))).Empty() != ~0U) {
+      return InCell(open - (fours | eights | (ones & twos)));
+    }
+    for (int digit = 0; digit < kDigits; ++digit) {
+      const std::uint32_t houses =
+          Lanes::Load(Top().places[digit]).AtMostTwo() & kHouseLanes & ~Top().done[digit];
+      if (houses != 0) return InHouse(digit, houses);
+    }
+    Lanes fewest = open;
+    for (const Lanes& bits : {eights, fours, twos, ones}) {
+      const Lanes fewer = fewest - bits;
+      if (fewer.Empty() != ~0U) fewest = fewer;
+    }
+    return InCell(fewest);
+  }
+
+  Choice InCell(const Lanes& chosen) {
+    Places cells;
+    chosen.Store(cells);
+    return InCell(cells, ~chosen.Empty() & kRowLanes);
   }
 
   Choice InCell(const Places& cells, std::uint32_t rows) {
@@ -92,20 +108,10 @@ class Search {
     return {tables_.cellAt[row][column], static_cast<std::uint8_t>(Draw(digits))};
   }
 
-  Choice InHouse() {
-    int fewest = kSide + 1;
-    Choice choice{};
-    for (int digit = 0; digit < kDigits; ++digit) {
-      for (std::uint32_t left = kHouseLanes & ~Top().done[digit]; left != 0; left &= left - 1) {
-        const int house = __builtin_ctz(left);
-        const std::uint32_t places = Top().places[digit].lane[house];
-        const int size = __builtin_popcount(places);
-        if (size >= fewest) continue;
-        fewest = size;
-        choice = {tables_.cellAt[house][Draw(places)], static_cast<std::uint8_t>(digit)};
-      }
-    }
-    return choice;
+  Choice InHouse(int digit, std::uint32_t houses) {
+    const int house = Draw(houses);
+    const int cell = tables_.cellAt[house][Draw(Top().places[digit].lane[house])];
+    return {static_cast<std::uint8_t>(cell), static_cast<std::uint8_t>(digit)};
   }
 
   // The number of one of the bits.

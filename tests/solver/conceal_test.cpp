@@ -13,7 +13,7 @@ using oracle::LiteralConceal;
 #ifdef __SANITIZE_ADDRESS__
 constexpr std::uint64_t kPuzzles = 6;
 #else
-constexpr std::uint64_t kPuzzles = 60;
+constexpr std::uint64_t kPuzzles = 30;
 #endif
 
 class ConcealedPuzzle : public OnEveryPath {
