@@ -1,0 +1,16 @@
+// Whether a layout can be filled, decided for every layout. Needs a SAT solver, so it is a library
+// of its own: tessel_solver_sat.
+#pragma once
+
+#include "solver/solver.h"
+
+namespace tessel::solver {
+
+// A filling, or kNo; never kUnknown. What the search does not decide within a few thousand nodes is
+// left to the SAT solver. The answer depends on the layout alone.
+Filling DecideFillable(const Layout& layout, Path path = BestPath());
+
+// The same by the SAT solver alone, which shares nothing with the search. Counts no nodes.
+Filling DecideBySat(const Layout& layout);
+
+}  // namespace tessel::solver
