@@ -1,6 +1,6 @@
 #include "grade/grader.h"
 
-namespace tessel {
+namespace tessel::grade {
 
 std::string_view MessageOf(GradeFault fault) {
   return fault == GradeFault::kNoSolution ? "it has no solution" : "it has several solutions";
@@ -15,7 +15,7 @@ tl::expected<Grade, GradeFault> Grader::GradeOf(const Layout& layout, const Grid
   const std::size_t solutions = solver_->Completions(givens).size();
   if (solutions == 0) return tl::unexpected(GradeFault::kNoSolution);
   if (solutions > 1) return tl::unexpected(GradeFault::kSeveralSolutions);
-  return tessel::GradeOf(layout, givens);
+  return grade::GradeOf(layout, givens);
 }
 
-}  // namespace tessel
+}  // namespace tessel::grade

@@ -8,7 +8,7 @@
 #include "grade/grade.h"
 #include "solver/solver.h"
 
-namespace tessel {
+namespace tessel::grade {
 
 // Why a puzzle has no grade.
 enum class GradeFault : std::uint8_t { kNoSolution, kSeveralSolutions };
@@ -28,4 +28,4 @@ class Grader {
   std::optional<solver::Solver> solver_;
 };
 
-}  // namespace tessel
+}  // namespace tessel::grade

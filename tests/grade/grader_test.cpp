@@ -4,7 +4,7 @@
 
 #include "tests/grade/made_puzzles.h"
 
-namespace tessel {
+namespace tessel::grade {
 namespace {
 
 TEST(Grader, GradesAPuzzleWithOneSolution) {
@@ -41,4 +41,4 @@ TEST(Grader, TellsWhyInWords) {
 }
 
 }  // namespace
-}  // namespace tessel
+}  // namespace tessel::grade

@@ -6,7 +6,7 @@
 #include "grade/grade.h"
 #include "tests/grade/made_puzzles.h"
 
-namespace tessel {
+namespace tessel::grade {
 namespace {
 
 using Numbers = std::array<std::uint8_t, kSide + 1>;  // what 0..9 become; 0 stays
@@ -75,4 +75,4 @@ TEST(Symmetry, NoneChangesTheGrade) {
 }
 
 }  // namespace
-}  // namespace tessel
+}  // namespace tessel::grade
