@@ -1,19 +1,15 @@
 #include "shell/qt/qt_sound_player.h"
 
-#include <QAudioDevice>
-#include <QDeadlineTimer>
-#include <QFile>
-#include <QFileInfo>
-#include <QMediaDevices>
-#include <QSoundEffect>
-#include <atomic>
-#include <chrono>
-#include <cstdio>
+#include <fcntl.h>
+#include <signal.h>
+#include <sys/prctl.h>
+#include <unistd.h>
+
+#include <array>
 #include <cstdlib>
-#include <tuple>
-#include <vector>
 
 #include "shell/qt/sound_file.h"
+#include "shell/qt/sound_process.h"
 
 namespace tessel {
 
@@ -22,94 +18,60 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto kLatestStart = 500ms;
-constexpr int kMostWaiting = 16;
-constexpr auto kPatienceAtEnd = 300ms;
 
-// The objects that a thread still uses when the process ends must not be destroyed under it: ends
-// the process before the destructors of static objects get their turn.
-void EndProcessWithoutDestroyingStatics() {
-  on_exit(
-      [](int status, void*) {
-        std::fflush(nullptr);
-        std::_Exit(status);
-      },
-      nullptr);
+// Neither keeps open what reads our output nor prints into it.
+void LeaveStandardStreams() {
+  const int nothing = open("/dev/null", O_RDWR | O_CLOEXEC);
+  for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) dup2(nothing, stream);
+  close(nothing);
+}
+
+[[noreturn]] void RunSoundProcess(int orders, pid_t parent) {
+  prctl(PR_SET_PDEATHSIG, SIGKILL);
+  if (getppid() != parent) std::_Exit(EXIT_SUCCESS);  // it ended before the line above
+  prctl(PR_SET_NAME, "tessel-sounds");
+  LeaveStandardStreams();
+  PlaySounds(orders);
 }
 
 }  // namespace
 
-// What the thread runs; everything of Qt Multimedia lives here.
-class QtSoundPlayer::Speaker final : public QObject {
- public:
-  void Open() {
-    devices_ = std::make_unique<QMediaDevices>();
-    connect(devices_.get(), &QMediaDevices::audioOutputsChanged, this, [this] { FollowOutput(); });
-    output_ = QMediaDevices::defaultAudioOutput();
+QtSoundPlayer::QtSoundPlayer() {
+  signal(SIGPIPE, SIG_IGN);
+  std::array<int, 2> pipe{};
+  if (pipe2(pipe.data(), O_CLOEXEC | O_DIRECT | O_NONBLOCK) != 0) return;
+  const pid_t parent = getpid();
+  process_ = fork();
+  if (process_ == 0) {
+    close(pipe[1]);
+    RunSoundProcess(pipe[0], parent);
   }
-  void Add(const QUrl& source) {
-    sources_.push_back(source);
-    if (!output_.isNull()) effects_.push_back(EffectFrom(source));
-  }
-  void Play(std::size_t id) {
-    if (id < effects_.size()) effects_[id]->play();
-  }
-
-  std::atomic<int> waiting = 0;  // plays that were asked for and have not begun
-
- private:
-  // An effect stays with the output that it was made for: a new output needs new effects.
-  void FollowOutput() {
-    effects_.clear();
-    output_ = QMediaDevices::defaultAudioOutput();
-    if (output_.isNull()) return;
-    for (const QUrl& source : sources_) effects_.push_back(EffectFrom(source));
-  }
-  std::unique_ptr<QSoundEffect> EffectFrom(const QUrl& source) const {
-    auto effect = std::make_unique<QSoundEffect>(output_);
-    effect->setSource(source);
-    return effect;
-  }
-
-  std::unique_ptr<QMediaDevices> devices_;
-  QAudioDevice output_;
-  std::vector<QUrl> sources_;
-  std::vector<std::unique_ptr<QSoundEffect>> effects_;  // in the order of the sources, or none
-};
-
-QtSoundPlayer::~QtSoundPlayer() {
-  if (!thread_) return;
-  thread_->quit();
-  if (thread_->wait(kPatienceAtEnd)) return;
-  std::ignore = thread_.release();
-  EndProcessWithoutDestroyingStatics();
+  close(pipe[0]);
+  orders_ = pipe[1];
 }
 
-void QtSoundPlayer::Start() {
-  thread_ = std::make_unique<QThread>();
-  speaker_ = new Speaker;
-  speaker_->moveToThread(thread_.get());
-  QObject::connect(thread_.get(), &QThread::finished, speaker_, &QObject::deleteLater);
-  thread_->start();
-  QMetaObject::invokeMethod(speaker_, [speaker = speaker_] { speaker->Open(); });
+QtSoundPlayer::~QtSoundPlayer() {
+  close(orders_);
+  if (process_ > 0) kill(process_, SIGKILL);
 }
 
 std::int32_t QtSoundPlayer::Load(const std::string& path) {
-  const QFileInfo info(QFile::decodeName(path.c_str()));
-  if (!IsSoundFile(info.filePath())) return -1;
-  if (!thread_) Start();
-  const QUrl source = QUrl::fromLocalFile(info.absoluteFilePath());
-  QMetaObject::invokeMethod(speaker_, [speaker = speaker_, source] { speaker->Add(source); });
+  if (!IsSoundFile(path) || !Send(kLoadOrder + path)) return -1;
   return count_++;
 }
 
 void QtSoundPlayer::Play(std::int32_t id) {
-  if (id < 0 || id >= count_ || speaker_->waiting >= kMostWaiting) return;
-  ++speaker_->waiting;
-  const QDeadlineTimer latest(kLatestStart);
-  QMetaObject::invokeMethod(speaker_, [speaker = speaker_, id, latest] {
-    --speaker->waiting;
-    if (!latest.hasExpired()) speaker->Play(static_cast<std::size_t>(id));
-  });
+  if (id < 0 || id >= count_) return;
+  const PlayOrder play{id, std::chrono::steady_clock::now() + kLatestStart};
+  std::string order(1, kPlayOrder);
+  order.append(reinterpret_cast<const char*>(&play), sizeof play);
+  Send(order);
+}
+
+// The pipe takes a whole order or, when the other process has not read the last ones, none.
+bool QtSoundPlayer::Send(const std::string& order) const {
+  if (order.size() > kLongestOrder) return false;
+  return write(orders_, order.data(), order.size()) == static_cast<ssize_t>(order.size());
 }
 
 }  // namespace tessel

@@ -1,10 +1,10 @@
 #include "shell/qt/sound_file.h"
 
-#include <QFile>
-#include <QFileInfo>
 #include <QtEndian>
 #include <array>
 #include <bit>
+#include <filesystem>
+#include <fstream>
 #include <optional>
 #include <string_view>
 
@@ -12,7 +12,7 @@ namespace tessel {
 
 namespace {
 
-constexpr qint64 kLargestFile = 4 << 20;
+constexpr std::uintmax_t kLargestFile = 4 << 20;
 
 using Name = std::array<char, 4>;
 
@@ -36,9 +36,9 @@ struct Format {
 static_assert(sizeof(RiffHeader) == 12 && sizeof(ChunkHeader) == 8 && sizeof(Format) == 16);
 
 template <typename T>
-std::optional<T> Read(QFile& file) {
+std::optional<T> Read(std::istream& file) {
   std::array<char, sizeof(T)> bytes{};
-  if (file.read(bytes.data(), sizeof(T)) != sizeof(T)) return std::nullopt;
+  if (!file.read(bytes.data(), sizeof(T))) return std::nullopt;
   return std::bit_cast<T>(bytes);
 }
 
@@ -47,37 +47,39 @@ bool Is(const Name& name, std::string_view text) {
 }
 
 bool IsPlain(const Format& format) {
-  constexpr int kPlainNumbers = 1;
-  return format.coding == kPlainNumbers && (format.channels == 1 || format.channels == 2) &&
+  constexpr int kPcm = 1;
+  return format.coding == kPcm && (format.channels == 1 || format.channels == 2) &&
          format.rate >= 4'000 && format.rate <= 192'000 && (format.bits == 8 || format.bits == 16);
 }
 
 // Walks the chunks up to the samples.
-bool HoldsSamples(QFile& file) {
+bool HoldsSamples(std::istream& file, std::streamoff fileSize) {
   const auto riff = Read<RiffHeader>(file);
   if (!riff || !Is(riff->riff, "RIFF") || !Is(riff->wave, "WAVE")) return false;
   bool plain = false;
   while (const auto chunk = Read<ChunkHeader>(file)) {
-    const qint64 size = chunk->size;
-    const qint64 end = file.pos() + size;
-    if (Is(chunk->name, "data")) return plain && size > 0 && end <= file.size();
+    const std::streamoff size = chunk->size;
+    const std::streamoff end = file.tellg() + size;
+    if (Is(chunk->name, "data")) return plain && size > 0 && end <= fileSize;
     if (Is(chunk->name, "fmt ")) {
       const auto format = Read<Format>(file);
       plain = format && IsPlain(*format);
     }
-    if (!file.seek(end + size % 2)) return false;
+    file.seekg(end + size % 2);
   }
   return false;
 }
 
 }  // namespace
 
-bool IsSoundFile(const QString& path) {
-  const QFileInfo info(path);
-  // Only a plain file: a pipe would hold up whoever opens it.
-  if (!info.isFile() || info.size() > kLargestFile) return false;
-  QFile file(path);
-  return file.open(QIODevice::ReadOnly) && HoldsSamples(file);
+bool IsSoundFile(const std::string& path) {
+  std::error_code error;
+  // Only a regular file: a pipe would hold up whoever opens it.
+  if (!std::filesystem::is_regular_file(path, error)) return false;
+  const auto size = std::filesystem::file_size(path, error);
+  if (error || size > kLargestFile) return false;
+  std::ifstream file(path, std::ios::binary);
+  return HoldsSamples(file, static_cast<std::streamoff>(size));
 }
 
 }  // namespace tessel

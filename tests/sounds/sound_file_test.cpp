@@ -19,7 +19,7 @@ class IsSoundFileTest : public testing::Test {
   bool Accepts(const std::string& bytes) {
     const std::string path = folder.Path() / "sound.wav";
     std::ofstream(path, std::ios::binary | std::ios::trunc) << bytes;
-    return IsSoundFile(QString::fromStdString(path));
+    return IsSoundFile(path);
   }
   // Whether the good file is still accepted with the little-endian number put in at `at`.
   bool AcceptsWith(std::size_t at, std::uint32_t number, int size) {
@@ -36,12 +36,12 @@ class IsSoundFileTest : public testing::Test {
 
 TEST_F(IsSoundFileTest, AcceptsTheTenSounds) {
   for (const std::string_view name : kSoundFiles) {
-    EXPECT_TRUE(IsSoundFile(QString::fromStdString(TESSEL_SOUND_FOLDER + std::string(name))));
+    EXPECT_TRUE(IsSoundFile(TESSEL_SOUND_FOLDER + std::string(name)));
   }
 }
 
 TEST_F(IsSoundFileTest, RejectsWhatIsNoFile) {
-  const QString path = QString::fromStdString(folder.Path().string());
+  const std::string path = folder.Path().string();
   EXPECT_FALSE(IsSoundFile(path + "/missing.wav"));
   EXPECT_FALSE(IsSoundFile(path));
   EXPECT_FALSE(IsSoundFile(""));
@@ -51,7 +51,7 @@ TEST_F(IsSoundFileTest, RejectsWhatIsNoFile) {
 TEST_F(IsSoundFileTest, DoesNotWaitForAPipe) {
   const std::string pipe = folder.Path() / "pipe.wav";
   ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
-  EXPECT_FALSE(IsSoundFile(QString::fromStdString(pipe)));
+  EXPECT_FALSE(IsSoundFile(pipe));
 }
 
 TEST_F(IsSoundFileTest, RejectsEveryShorterPartOfAFile) {
@@ -71,7 +71,7 @@ TEST_F(IsSoundFileTest, RejectsAHugeFileWithoutReadingIt) {
   const std::string path = folder.Path() / "huge.wav";
   std::ofstream(path, std::ios::binary) << good;
   std::filesystem::resize_file(path, std::uintmax_t{4} << 30);
-  EXPECT_FALSE(IsSoundFile(QString::fromStdString(path)));
+  EXPECT_FALSE(IsSoundFile(path));
 }
 
 TEST_F(IsSoundFileTest, RejectsASizeThatTheFileDoesNotHave) {

@@ -9,8 +9,8 @@
 
 int main(int argc, char** argv) {
   constexpr int kEndedOrderly = 7;
-  QCoreApplication application(argc, argv);
   tessel::QtSoundPlayer player;
+  const QCoreApplication application(argc, argv);
   for (std::string line; std::getline(std::cin, line);) {
     std::istringstream words(line);
     std::string command;
