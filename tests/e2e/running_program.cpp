@@ -14,12 +14,18 @@ namespace {
 constexpr uid_t kNobody = 65534;
 constexpr int kPatienceMs = static_cast<int>(std::chrono::milliseconds(kPatience).count());
 
+void LimitFileSize(rlim_t bytes) {
+  const rlimit limit{bytes, bytes};
+  setrlimit(RLIMIT_FSIZE, &limit);
+}
+
 }  // namespace
 
 void InstallProgram(const std::filesystem::path& folder) {
   QProcess cmake;
-  cmake.start(CMAKE_PROGRAM, {"--install", TESSEL_BINARY_DIR, "--prefix",
-                              QString::fromStdString(folder.string())});
+  cmake.start(CMAKE_PROGRAM,
+              {"--install", TESSEL_BINARY_DIR, "--prefix", QString::fromStdString(folder.string()),
+               "--component", "Unspecified"});
   if (!cmake.waitForFinished(kPatienceMs) || cmake.exitCode() != 0) {
     throw std::runtime_error("not installed: " + cmake.readAllStandardError().toStdString());
   }
@@ -72,8 +78,9 @@ void DesktopWindow::PressKeys(const QStringList& keys) const {
 }
 
 RunningProgram::RunningProgram(const std::filesystem::path& folder, const Launch& launch) {
-  process_.setChildProcessModifier([asNobody = launch.asNobody] {
-    if (asNobody && (setgid(kNobody) != 0 || setuid(kNobody) != 0)) _exit(EXIT_FAILURE);
+  process_.setChildProcessModifier([launch] {
+    if (launch.asNobody && (setgid(kNobody) != 0 || setuid(kNobody) != 0)) _exit(EXIT_FAILURE);
+    if (launch.fileSizeLimit) LimitFileSize(*launch.fileSizeLimit);
     EndWithParent();
   });
   process_.setProcessEnvironment(launch.environment);

@@ -1,11 +1,14 @@
 // The real program, installed into a folder and started on the desktop, in the hands of a user.
 #pragma once
 
+#include <sys/resource.h>
+
 #include <QImage>
 #include <QProcess>
 #include <QRect>
 #include <QString>
 #include <filesystem>
+#include <optional>
 #include <string>
 
 namespace tessel {
@@ -44,7 +47,8 @@ class DesktopWindow {
 // How a program is started.
 struct Launch {
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-  bool asNobody = false;  // who may write nowhere; needs root
+  bool asNobody = false;                               // who may write nowhere; needs root
+  std::optional<rlim_t> fileSizeLimit = std::nullopt;  // in bytes, as of `ulimit -f`
 };
 
 class RunningProgram {

@@ -8,8 +8,11 @@
 #include <fstream>
 #include <regex>
 
+#include "tests/e2e/desktop.h"
+#include "tests/e2e/eventually.h"
 #include "tests/e2e/puzzle_file_reading.h"
 #include "tests/e2e/user.h"
+#include "tests/sounds/sound_server.h"
 #include "tests/source_folder.h"
 
 namespace tessel {
@@ -88,6 +91,47 @@ TEST_F(BadSurroundings, DiskIsFull) {
   EXPECT_EQ(BytesOf(mountPoint.PuzzleFile()), before);
 }
 
+TEST_F(BadSurroundings, FilesMayNotGrow) {
+  Launch launch;
+  launch.fileSizeLimit = 0;
+  User user(folder_.Path(), launch);
+  ExpectNotSaved(user, folder_.PuzzleFile(), "File too large");
+  EXPECT_EQ(BytesOf(folder_.PuzzleFile()), "");
+}
+
+TEST_F(BadSurroundings, FilesMayGrowForAPartOfARecordOnly) {
+  const std::string before(kRecordSize, 'x');
+  std::ofstream(folder_.PuzzleFile(), std::ios::binary) << before;
+  Launch launch;
+  launch.fileSizeLimit = 300;
+  User user(folder_.Path(), launch);
+  ExpectNotSaved(user, folder_.PuzzleFile(), "No space left on device");
+  EXPECT_EQ(BytesOf(folder_.PuzzleFile()), before);
+}
+
+// The puzzle goes beside the program and nowhere else, whatever bytes the folder's name is made of.
+TEST_F(BadSurroundings, FolderIsNotNamedInUtf8) {
+  const auto folder = folder_.Path() / "caf\xE9 & \xFF";
+  std::filesystem::create_directory(folder);
+  for (const auto& file : std::filesystem::directory_iterator(folder_.Path())) {
+    if (file.is_regular_file()) std::filesystem::copy(file, folder);
+  }
+  Launch launch;
+  launch.asNobody = geteuid() == 0;  // for whom a wrong folder such as / would be a failure
+  for (const auto& path : {folder_.Path(), folder}) {
+    std::filesystem::permissions(path, std::filesystem::perms::all);
+  }
+  // Qt cannot start a program by such a name either.
+  const auto link = folder_.Path() / "link";
+  std::filesystem::create_directory_symlink(folder, link);
+  User user(link, launch);
+  EXPECT_TRUE(user.MakesPuzzle());
+  EXPECT_TRUE(user.SeesStage(Stage::kPuzzleConcealed));
+  EXPECT_TRUE(user.SeesText("Notice", ""));
+  EXPECT_TRUE(IsSoundPuzzle(OnlyRecord(folder / "Tessel_Sudoku.sds")));
+  EXPECT_FALSE(std::filesystem::exists(folder_.PuzzleFile()));
+}
+
 TEST_F(BadSurroundings, PuzzleFileIsADirectory) {
   std::filesystem::create_directory(folder_.PuzzleFile());
   User user(folder_.Path());
@@ -136,12 +180,7 @@ struct Outcome {
   QString errors;
 };
 
-Outcome RunWithoutDisplay(const QString& program, const QString& display) {
-  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-  for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
-    environment.remove(name);
-  }
-  if (!display.isEmpty()) environment.insert("DISPLAY", display);
+Outcome RunIn(const QProcessEnvironment& environment, const QString& program) {
   QProcess process;
   process.setProcessEnvironment(environment);
   process.start(program, QStringList());
@@ -150,10 +189,19 @@ Outcome RunWithoutDisplay(const QString& program, const QString& display) {
   return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
 }
 
-void ExpectOneClearLine(const Outcome& outcome) {
+Outcome RunWithoutDisplay(const QString& program, const QString& display) {
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+    environment.remove(name);
+  }
+  if (!display.isEmpty()) environment.insert("DISPLAY", display);
+  return RunIn(environment, program);
+}
+
+void ExpectOneClearLine(const Outcome& outcome, const char* pattern = ".*display.*\n") {
   EXPECT_NE(outcome.status, 0);
   EXPECT_EQ(outcome.output, "");
-  EXPECT_TRUE(std::regex_match(outcome.errors.toStdString(), std::regex(".*display.*\n")))
+  EXPECT_TRUE(std::regex_match(outcome.errors.toStdString(), std::regex(pattern)))
       << outcome.errors.toStdString();
 }
 
@@ -162,6 +210,75 @@ TEST_F(BadSurroundings, NoDisplayIsToldInOneLine) {
   ExpectOneClearLine(RunWithoutDisplay(program, ""));
   ExpectOneClearLine(RunWithoutDisplay(program, ":9999"));
 }
+
+TEST_F(BadSurroundings, AnotherReasonNotToStartIsToldInOneLineOfItsOwn) {
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  environment.insert("QT_QPA_PLATFORM", "nonsense");
+  const QString program = QString::fromStdString((folder_.Path() / "tessel-sudoku").string());
+  ExpectOneClearLine(RunIn(environment, program),
+                     "tessel-sudoku: cannot open a window: .*\"nonsense\".*\n");
+}
+
+// A display of its own, which can be lost.
+class LosableDisplay {
+ public:
+  LosableDisplay() {
+    display_.setChildProcessModifier(EndWithParent);
+    display_.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1600x1200x24", "-nolisten", "tcp"});
+    Eventually([this] { return display_.canReadLine() || display_.waitForReadyRead(20); });
+    name_ = ":" + QString::fromLatin1(display_.readLine()).trimmed();
+  }
+  LosableDisplay(const LosableDisplay&) = delete;
+  LosableDisplay& operator=(const LosableDisplay&) = delete;
+  ~LosableDisplay() { Lose(); }
+
+  const QString& Name() const { return name_; }
+  void Lose() {
+    display_.kill();
+    display_.waitForFinished();
+  }
+  bool ShowsWindow() const {
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("DISPLAY", name_);
+    process.setProcessEnvironment(environment);
+    process.start("xdotool", {"search", "--onlyvisible", "--name", "^Tessel Sudoku"});
+    process.waitForFinished();
+    return !process.readAllStandardOutput().isEmpty();
+  }
+
+ private:
+  QProcess display_;
+  QString name_;
+};
+
+// The sound server would answer the last of the program's objects after half a minute.
+class LostDisplay : public BadSurroundings, public testing::WithParamInterface<bool> {};
+
+TEST_P(LostDisplay, EndsTheProgramAtOnceWhileTheSoundServerHangs) {
+  const bool hangsFromTheStart = GetParam();
+  SoundServer server;
+  ASSERT_TRUE(server.Answers());
+  LosableDisplay display;
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  environment.insert("DISPLAY", display.Name());
+  environment.insert("PULSE_SERVER", server.Address());
+  QProcess program;
+  program.setChildProcessModifier(EndWithParent);
+  program.setProcessEnvironment(environment);
+  if (hangsFromTheStart) server.Freeze();
+  program.start(QString::fromStdString((folder_.Path() / "tessel-sudoku").string()), QStringList());
+  ASSERT_TRUE(Eventually([&] { return display.ShowsWindow(); }));
+  if (!hangsFromTheStart) server.Freeze();
+  display.Lose();
+  EXPECT_TRUE(program.waitForFinished(10'000));
+  EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
+  EXPECT_EQ(program.readAllStandardOutput(), "");
+}
+
+INSTANTIATE_TEST_SUITE_P(SoundServer, LostDisplay, testing::Bool(), [](const auto& hangs) {
+  return std::string(hangs.param ? "HangsFromTheStart" : "HangsLater");
+});
 
 TEST(Play, TellsBeforeAnyWorkThatThereIsNoDisplay) {
   ExpectOneClearLine(RunWithoutDisplay(QString::fromStdString(SourceFolder() + "/play"), ""));
