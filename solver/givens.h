@@ -6,25 +6,6 @@
 namespace tessel::solver {
 
 template <typename Lanes>
-void Clear(const Tables& tables, Level& level) {
-  const Lanes everywhere = Lanes::Load(tables.everywhere);
-  everywhere.Store(level.open);
-  for (int digit = 0; digit < kDigits; ++digit) {
-    everywhere.Store(level.places[digit]);
-    level.done[digit] = 0;
-  }
-}
-
-template <typename Lanes>
-bool Place(const Tables& tables, Level& level, int cell, int digit) {
-  const int row = RowOf(cell);
-  const unsigned places = level.places[digit].lane[row] & level.open.lane[row];
-  if ((places >> ColumnOf(cell) & 1U) == 0) return false;
-  Fill<Lanes>(tables, level, cell, digit);
-  return true;
-}
-
-template <typename Lanes>
 void PutBack(const Tables& tables, Givens& givens, int cell) {
   const int digit = givens.digitAt[cell];
   givens.cellsOf[digit][givens.sizes[digit]++] = static_cast<std::uint8_t>(cell);
@@ -98,14 +79,8 @@ constexpr Kernel KernelOf() {
   return {
       .clear = Clear<Lanes>,
       .place = Place<Lanes>,
-      .placeSingles =
-          [](const Tables& tables, Workspace& work, Level& level) {
-            return Propagation<Lanes>(tables, work, level).PlaceSingles();
-          },
-      .removeLocked =
-          [](const Tables& tables, Workspace& work, Level& level) {
-            return Propagation<Lanes>(tables, work, level).RemoveLocked();
-          },
+      .placeSingles = PlaceSingles<Lanes>,
+      .removeLocked = RemoveLocked<Lanes>,
       .search = [](const Tables& tables, Workspace& work,
                    const Request& request) { return Search<Lanes>(tables, work, request).Run(); },
       .give = Give<Lanes>,

@@ -33,8 +33,12 @@ class Avx2Lanes {
   friend Avx2Lanes operator-(Avx2Lanes a, Avx2Lanes b) {
     return {_mm256_andnot_si256(b.low_, a.low_), _mm256_andnot_si256(b.high_, a.high_)};
   }
-  // Lane i of the result is lane from[i] of these lanes.
-  Avx2Lanes At(Avx2Lanes from) const { return {Part(from.low_), Part(from.high_)}; }
+  // Lane i of the result is lane from[i] of these lanes, all of which lie in the quarters kFirst to
+  // kLast of the lanes.
+  template <int kFirst, int kLast>
+  [[gnu::always_inline]] Avx2Lanes At(Avx2Lanes from) const {
+    return {Gathered<kFirst, kLast>(from.low_), Gathered<kFirst, kLast>(from.high_)};
+  }
 
   // The lanes without a bit, bit i standing for lane i.
   std::uint32_t Empty() const {
@@ -59,21 +63,23 @@ class Avx2Lanes {
     return static_cast<std::uint32_t>(_mm256_movemask_epi8(packed));
   }
 
-  // Shuffles reach 16 bytes, so each quarter of the lanes is asked for what it has: a byte number
-  // outside 0..15 is made one above 127, for which a shuffle gives 0.
-  __m256i Part(__m256i from) const {
+  // A shuffle reaches 16 bytes, so each quarter of the lanes is asked for what it has. The numbers
+  // of bytes outside it are made numbers above 127, for which a shuffle gives 0.
+  template <int kFirst, int kLast>
+  [[gnu::always_inline]] __m256i Gathered(__m256i from) const {
     const __m256i bytes = _mm256_add_epi8(_mm256_mullo_epi16(from, _mm256_set1_epi16(0x202)),
                                           _mm256_set1_epi16(0x100));
-    const auto quarter = [&](__m256i part, int half, int first) {
-      const __m256i twice =
-          half == 0 ? _mm256_permute4x64_epi64(part, 0x44) : _mm256_permute4x64_epi64(part, 0xEE);
-      const __m256i inside =
-          _mm256_adds_epu8(_mm256_sub_epi8(bytes, _mm256_set1_epi8(static_cast<char>(first))),
-                           _mm256_set1_epi8(0x70));
-      return _mm256_shuffle_epi8(twice, inside);
-    };
-    return _mm256_or_si256(_mm256_or_si256(quarter(low_, 0, 0), quarter(low_, 1, 16)),
-                           _mm256_or_si256(quarter(high_, 0, 32), quarter(high_, 1, 48)));
+    __m256i gathered = _mm256_setzero_si256();
+    for (int quarter = kFirst; quarter <= kLast; ++quarter) {
+      const __m256i half = quarter < 2 ? low_ : high_;
+      const __m256i twice = quarter % 2 == 0 ? _mm256_permute4x64_epi64(half, 0x44)
+                                             : _mm256_permute4x64_epi64(half, 0xEE);
+      const __m256i within =
+          _mm256_sub_epi8(bytes, _mm256_set1_epi8(static_cast<char>(16 * quarter)));
+      const __m256i wanted = _mm256_adds_epu8(within, _mm256_set1_epi8(0x70));
+      gathered = _mm256_or_si256(gathered, _mm256_shuffle_epi8(twice, wanted));
+    }
+    return gathered;
   }
 
   __m256i low_;

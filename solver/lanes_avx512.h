@@ -18,8 +18,12 @@ class Avx512Lanes {
   friend Avx512Lanes operator|(Avx512Lanes a, Avx512Lanes b) { return a.lanes_ | b.lanes_; }
   friend Avx512Lanes operator^(Avx512Lanes a, Avx512Lanes b) { return a.lanes_ ^ b.lanes_; }
   friend Avx512Lanes operator-(Avx512Lanes a, Avx512Lanes b) { return a.lanes_ & ~b.lanes_; }
-  // Lane i of the result is lane from[i] of these lanes.
-  Avx512Lanes At(Avx512Lanes from) const { return _mm512_permutexvar_epi16(from.lanes_, lanes_); }
+  // Lane i of the result is lane from[i] of these lanes, all of which lie in the quarters kFirst to
+  // kLast of the lanes.
+  template <int kFirst, int kLast>
+  Avx512Lanes At(Avx512Lanes from) const {
+    return _mm512_permutexvar_epi16(from.lanes_, lanes_);
+  }
 
   // The lanes without a bit, bit i standing for lane i.
   std::uint32_t Empty() const { return _mm512_testn_epi16_mask(lanes_, lanes_); }

@@ -34,7 +34,9 @@ class PlainLanes {
     for (int i = 0; i < kParts; ++i) a.parts_[i] &= ~b.parts_[i];
     return a;
   }
-  // Lane i of the result is lane from[i] of these lanes.
+  // Lane i of the result is lane from[i] of these lanes, all of which lie in the quarters kFirst to
+  // kLast of the lanes.
+  template <int kFirst, int kLast>
   PlainLanes At(const PlainLanes& from) const {
     std::uint16_t lanes[kLaneCount];
     std::uint16_t indices[kLaneCount];

@@ -1,18 +1,9 @@
-// The search: try a choice, see what follows, take it back.
+// The search: a choice is tried, what follows is placed, and dead ends are taken back.
 #pragma once
 
 #include "solver/propagation.h"
 
 namespace tessel::solver {
-
-template <typename Lanes>
-[[gnu::always_inline]] inline void CopyLevel(const Level& from, Level& to) {
-  for (int digit = 0; digit < kDigits; ++digit) {
-    Lanes::Load(from.places[digit]).Store(to.places[digit]);
-    to.done[digit] = from.done[digit];
-  }
-  Lanes::Load(from.open).Store(to.open);
-}
 
 template <typename Lanes>
 class Search {
@@ -22,17 +13,13 @@ class Search {
 
   [[gnu::flatten]] Result Run() {
     while (true) {
-      switch (Propagation<Lanes>(tables_, work_, Top()).Run()) {
-        case Standing::kOpen:
-          if (result_.nodes == request_.nodes) return result_;
-          Descend(Choose());
-          continue;
-        case Standing::kSolved:
-          Record();
-          break;
-        case Standing::kContradiction:
-          break;
+      const Standing standing = Propagate<Lanes>(tables_, work_, Top());
+      if (standing == Standing::kOpen) {
+        if (result_.nodes == request_.nodes) return result_;
+        Descend(Choose());
+        continue;
       }
+      if (standing == Standing::kSolved) Record();
       result_.complete = result_.solutions == request_.solutions || depth_ == 0;
       if (result_.complete) return result_;
       Ascend();
@@ -62,50 +49,53 @@ class Search {
     (Lanes::Load(places) - Lanes::Load(tables_.only[cell])).Store(places);
   }
 
-  // A cell with the fewest candidates, or a house with two places for a digit if cells have more.
+  // A cell with two candidates; without one, a house with two places for a digit; without either, a
+  // cell with as few candidates as any.
   Choice Choose() {
+    const Counts counts = CountCandidates();
     const Lanes open = Lanes::Load(Top().open);
-    const Lanes none = open - open;
-    Lanes ones = none, twos = none, fours = none, eights = none;  // the digits of the counts
-    for (const Places& of : Top().places) {
-      const Lanes places = Lanes::Load(of);
-      const Lanes carry = ones & places;
-      ones = ones ^ places;
-      const Lanes carry2 = twos & carry;
-      twos = twos ^ carry;
-      eights = eights | (fours & carry2);
-      fours = fours ^ carry2;
-    }
-    if ((open - (fours | eights | (ones & twos))).Empty() != ~0U) {
-      return InCell(open - (fours | eights | (ones & twos)));
-    }
+    const Lanes pairs = open - (counts.eights | counts.fours | (counts.ones & counts.twos));
+    if (pairs.Empty() != kNoLane) return InCell(pairs);
     for (int digit = 0; digit < kDigits; ++digit) {
       const std::uint32_t houses =
           Lanes::Load(Top().places[digit]).AtMostTwo() & kHouseLanes & ~Top().done[digit];
       if (houses != 0) return InHouse(digit, houses);
     }
     Lanes fewest = open;
-    for (const Lanes& bits : {eights, fours, twos, ones}) {
+    for (const Lanes& bits : {counts.eights, counts.fours, counts.twos, counts.ones}) {
       const Lanes fewer = fewest - bits;
-      if (fewer.Empty() != ~0U) fewest = fewer;
+      if (fewer.Empty() != kNoLane) fewest = fewer;
     }
     return InCell(fewest);
   }
 
-  Choice InCell(const Lanes& chosen) {
-    Places cells;
-    chosen.Store(cells);
-    return InCell(cells, ~chosen.Empty() & kRowLanes);
+  // The number of candidates of every cell in binary: a counter of four bits for each bit of the
+  // lanes, into which the nine digits are added.
+  struct Counts {
+    Lanes ones, twos, fours, eights;
+  };
+  [[gnu::always_inline]] Counts CountCandidates() {
+    const Lanes none = Lanes::Load(Top().open) - Lanes::Load(Top().open);
+    Counts counts{none, none, none, none};
+    for (const Places& of : Top().places) {
+      const Lanes places = Lanes::Load(of);
+      const Lanes toTwos = counts.ones & places;
+      const Lanes toFours = counts.twos & toTwos;
+      counts.ones = counts.ones ^ places;
+      counts.twos = counts.twos ^ toTwos;
+      counts.eights = counts.eights | (counts.fours & toFours);
+      counts.fours = counts.fours ^ toFours;
+    }
+    return counts;
   }
 
-  Choice InCell(const Places& cells, std::uint32_t rows) {
-    const int row = Draw(rows);
-    const int column = Draw(cells.lane[row]);
-    std::uint32_t digits = 0;
-    for (int digit = 0; digit < kDigits; ++digit) {
-      digits |= (Top().places[digit].lane[row] >> column & 1U) << digit;
-    }
-    return {tables_.cellAt[row][column], static_cast<std::uint8_t>(Draw(digits))};
+  Choice InCell(const Lanes& cells) {
+    Places chosen;
+    cells.Store(chosen);
+    const int row = Draw(~cells.Empty() & kRowLanes);
+    const int column = Draw(chosen.lane[row]);
+    const int digit = Draw(CandidatesAt(Top(), row, column));
+    return {static_cast<std::uint8_t>(CellAt(row, column)), static_cast<std::uint8_t>(digit)};
   }
 
   Choice InHouse(int digit, std::uint32_t houses) {
@@ -114,13 +104,11 @@ class Search {
     return {static_cast<std::uint8_t>(cell), static_cast<std::uint8_t>(digit)};
   }
 
-  // The number of one of the bits.
+  // The number of a bit: the lowest, or one at random.
   int Draw(std::uint32_t bits) {
     if (request_.random != nullptr) {
-      for (auto skip = request_.random->Below(static_cast<unsigned>(__builtin_popcount(bits)));
-           skip != 0; --skip) {
-        bits &= bits - 1;
-      }
+      const auto count = static_cast<unsigned>(__builtin_popcount(bits));
+      for (auto skipped = request_.random->Below(count); skipped > 0; --skipped) bits &= bits - 1;
     }
     return __builtin_ctz(bits);
   }

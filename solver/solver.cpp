@@ -42,7 +42,6 @@ Grid GridOf(const std::uint8_t (&digits)[kCellCount]) {
 
 Solver::Solver(const Layout& layout, Path path)
     : kernel_(&KernelOf(path)),
-      layout_(layout),
       tables_(std::make_unique<Tables>(layout)),
       work_(std::make_unique<Workspace>()),
       givens_(std::make_unique<Givens>()) {}
@@ -52,8 +51,7 @@ Solver::Solver(Solver&&) noexcept = default;
 Solver& Solver::operator=(Solver&&) noexcept = default;
 
 void Solver::Use(const Layout& layout) {
-  layout_ = layout;
-  *tables_ = Tables(layout);
+  std::construct_at(tables_.get(), layout);
 }
 
 std::vector<Grid> Solver::Completions(const Grid& givens, int most) {

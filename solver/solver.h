@@ -64,7 +64,6 @@ class Solver {
   Filling Attempt(RandomStream& random, std::uint64_t mostNodes);
 
   const Kernel* kernel_;
-  Layout layout_;
   std::unique_ptr<Tables> tables_;
   std::unique_ptr<Workspace> work_;
   std::unique_ptr<Givens> givens_;

@@ -62,8 +62,8 @@ void Tables::AddIntersections() {
   for (int c = kFirstCageLane; c < kHouseCount; ++c) {
     for (int l = 0; l < kFirstCageLane; ++l) {
       const std::uint16_t inCage = house[l].lane[c];
-      const int size = std::popcount(inCage);
-      if (size < 2 || size == kSide) continue;
+      const bool severalCells = (inCage & (inCage - 1)) != 0;
+      if (!severalCells || inCage == kWholeHouse) continue;
       cage[count] = static_cast<std::uint16_t>(c);
       line[count] = static_cast<std::uint16_t>(l);
       shared[count] = inCage;
