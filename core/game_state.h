@@ -10,7 +10,7 @@
 
 #include "core/board.h"
 #include "core/colour.h"
-#include "core/houses.h"
+#include "core/hint_code.h"
 #include "core/layout.h"
 #include "core/position.h"
 #include "core/puzzle_record.h"
@@ -20,28 +20,6 @@ namespace tessel {
 
 // A boolean held in a 16-bit field.
 enum class Bool16 : std::int16_t { False = 0, True = -1 };
-
-// What a hint has found; `None` only until the first find.
-enum class HintCode : std::int16_t {
-  None = 0,
-  NakedSingle = 1,
-  HiddenSingleRow = 2,
-  HiddenSingleColumn = 3,
-  HiddenSingleCage = 4,
-  PointingPair = 5,
-  BoxLineRow = 6,
-  BoxLineColumn = 7,
-  NakedSubsetRow = 8,
-  NakedSubsetColumn = 9,
-  NakedSubsetCage = 10,
-  HiddenSubsetRow = 11,
-  HiddenSubsetColumn = 12,
-  HiddenSubsetCage = 13,
-  XWingRows = 14,
-  XWingColumns = 15,
-  SwordFishRows = 16,
-  SwordFishColumns = 17,
-};
 
 // The solving game's fields are those of its Position.
 struct GameState : Position {
@@ -79,7 +57,7 @@ struct GameState : Position {
   bool Command1Pressed = false;  // set by the spare button, read by nothing
 
   // The hint result: a technique sets the fields that its kind needs, the others keep their values.
-  HintCode HintKind = HintCode::None;
+  HintCode HintKind = HintCode::kNone;
   std::int16_t HintCell = 0;
   std::int16_t HintDigit = 0;
   std::int16_t HintUnit1 = 0;
@@ -98,21 +76,14 @@ void RebuildCageCells(GameState& state);
 // The cells of the cage that `cell` lies in; none while the cell is in no cage.
 std::span<const std::int16_t> CageAround(const GameState& state, int cell);
 
-// The layout as a value; it must be complete.
+// The layout as a value. CageOfCell must be complete (every cage 1..9 nine times); its cages need
+// not be connected.
 Layout LayoutOf(const GameState& state);
-
-// The houses of a complete layout.
-Houses HousesOf(const GameState& state);
 
 // The background of the cell's cage; the board's own colour while the cell is in no cage.
 Rgb CageColourOf(const GameState& state, int cell);
 
 // Removes `digit` from the candidates of every cell of the cell's row, column and cage.
 void RemoveFromHouses(const GameState& state, int cell, int digit, MaskBoard& candidates);
-
-// "B4": the row letter and the column digit.
-std::string CellName(const GameState& state, int cell);
-std::string RowName(const GameState& state, int row);
-std::string ColumnName(int column);
 
 }  // namespace tessel

@@ -7,9 +7,9 @@
 
 #include "core/texts.h"
 #include "fuzz/input.h"
-#include "hints/hint_button.h"
-#include "hints/special_pass.h"
-#include "hints/techniques.h"
+#include "shell/hint_button.h"
+#include "shell/hint_techniques.h"
+#include "shell/special_pass.h"
 #include "tests/fakes/fake_sound_player.h"
 #include "tests/fakes/recording_view.h"
 #include "tests/oracle/hints/comparison.h"
@@ -112,7 +112,7 @@ class Program {
 
  private:
   static constexpr auto kSubsetOf = [](int call) {
-    return call % 2 == 0 ? Subset::Naked : Subset::Hidden;
+    return call % 2 == 0 ? Subset::kNaked : Subset::kHidden;
   };
 
   // The techniques that take no argument; nothing for the calls of the others.

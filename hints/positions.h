@@ -1,4 +1,4 @@
-// Sets of positions in a house, and the combinations that the pattern searches try.
+// Sets of positions in a house and of cells, and the combinations that the techniques try.
 #pragma once
 
 #include <array>
@@ -7,14 +7,37 @@
 #include <optional>
 #include <span>
 
-#include "core/cell.h"
-#include "core/game_state.h"
+#include "core/board.h"
+#include "core/cell_set.h"
+#include "core/houses.h"
 
 namespace tessel {
 
 // Bit k stands for position k of a house, 0..8.
 using Positions = Mask;
 inline constexpr Positions kAllPositions = 511;
+
+namespace positions_detail {
+
+inline constexpr auto kSizes = [] {
+  std::array<std::int8_t, 512> sizes{};
+  for (std::size_t i = 1; i < sizes.size(); ++i) {
+    sizes[i] = static_cast<std::int8_t>(sizes[i / 2] + static_cast<int>(i % 2));
+  }
+  return sizes;
+}();
+
+}  // namespace positions_detail
+
+// The number of digits or positions in a set, from a table: not every processor that the program is
+// built for can count bits.
+constexpr int SizeOf(Mask set) {
+  return positions_detail::kSizes[set];
+}
+
+constexpr bool HasPosition(Positions positions, int k) {
+  return (positions >> k & 1) != 0;
+}
 
 // The lowest position of the set for which `holds(position)` is true.
 template <typename Predicate>
@@ -29,6 +52,7 @@ template <typename Predicate>
 constexpr bool AnyOf(Positions positions, Predicate holds) {
   return FirstOf(positions, holds).has_value();
 }
+// The set must not be empty.
 constexpr int LowestOf(Positions positions) {
   return std::countr_zero(static_cast<unsigned>(positions));
 }
@@ -40,6 +64,23 @@ inline Positions PositionsWith(const MaskBoard& masks, const HouseCells& cells, 
     if ((masks[cells[k]] & digits) != 0) positions |= 1 << k;
   }
   return static_cast<Positions>(positions);
+}
+
+constexpr CellSet CellsAt(const House& house, Positions positions) {
+  CellSet cells;
+  for (auto rest = static_cast<unsigned>(positions); rest != 0; rest &= rest - 1) {
+    cells = cells | CellSet::Of(house.cells[std::countr_zero(rest)]);
+  }
+  return cells;
+}
+
+// The cells that have the digit among their candidates.
+inline CellSet CellsWith(const MaskBoard& candidates, int digit) {
+  CellSet cells;
+  for (int cell = 0; cell < kCellCount; ++cell) {
+    if (Holds(candidates[cell], digit)) cells = cells | CellSet::Of(cell);
+  }
+  return cells;
 }
 
 namespace positions_detail {

@@ -14,10 +14,20 @@ only_includes() {
     status=1
   fi
 }
+# never_includes FOLDER FORBIDDEN: FOLDER must not know these headers of folders that it may include.
+never_includes() {
+  local folder=$1
+  local forbidden=$2
+  if grep -rnE --include='*.h' --include='*.cpp' "^ *# *include *\"core/($forbidden)\.h\"" "$folder"; then
+    echo "^ $folder/ works on values and must not know: $forbidden" >&2
+    status=1
+  fi
+}
 only_includes core 'core'
 only_includes layout 'core|layout'
 only_includes search 'core|search'
 only_includes hints 'core|hints'
+never_includes hints 'form|controls|view|clock|game_state|sounds|stage_time|texts'
 only_includes grade 'core|hints|solver|grade'
 only_includes solver 'core|solver'
 only_includes formats 'core|layout|search|hints|solver|grade|formats'

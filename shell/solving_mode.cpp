@@ -3,7 +3,7 @@
 #include <optional>
 
 #include "core/texts.h"
-#include "hints/candidate_marks.h"
+#include "shell/candidate_marks.h"
 
 namespace tessel {
 

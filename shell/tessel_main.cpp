@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "core/texts.h"
-#include "hints/hint_button.h"
+#include "shell/hint_button.h"
 
 namespace tessel {
 

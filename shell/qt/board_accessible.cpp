@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/names.h"
 #include "shell/qt/board_widget.h"
 
 namespace tessel {
@@ -45,7 +46,7 @@ QRect CellAccessible::rect() const {
 
 QString CellAccessible::text(QAccessible::Text kind) const {
   if (board_.State() == nullptr) return {};
-  if (kind == QAccessible::Name) return QString::fromStdString(CellName(*board_.State(), cell_));
+  if (kind == QAccessible::Name) return QString::fromStdString(CellName(cell_));
   if (kind == QAccessible::Value || kind == QAccessible::Description) return Contents();
   return {};
 }

@@ -7,6 +7,7 @@
 #include <limits>
 #include <set>
 
+#include "core/names.h"
 #include "tests/core/layouts.h"
 
 namespace tessel {
@@ -98,22 +99,20 @@ TEST(FillTables, CageColoursJoinTheClassicPalette) {
 }
 
 TEST(CellName, JoinsRowLetterAndColumnDigit) {
-  const GameState state = StateWithLayout(kIrregularLayout);
-  EXPECT_EQ(CellName(state, 0), "A1");
-  EXPECT_EQ(CellName(state, 8), "A9");
-  EXPECT_EQ(CellName(state, 9), "B1");
-  EXPECT_EQ(CellName(state, 71), "H9");
-  EXPECT_EQ(CellName(state, 72), "J1");
-  EXPECT_EQ(CellName(state, 80), "J9");
+  EXPECT_EQ(CellName(0), "A1");
+  EXPECT_EQ(CellName(8), "A9");
+  EXPECT_EQ(CellName(9), "B1");
+  EXPECT_EQ(CellName(71), "H9");
+  EXPECT_EQ(CellName(72), "J1");
+  EXPECT_EQ(CellName(80), "J9");
 }
 
 TEST(CellName, NoTwoCellsShareOneAndNoneIsInRowI) {
-  const GameState state = StateWithLayout(kIrregularLayout);
   std::set<std::string> names;
-  for (int cell = 0; cell < kCellCount; ++cell) names.insert(CellName(state, cell));
+  for (int cell = 0; cell < kCellCount; ++cell) names.insert(CellName(cell));
   EXPECT_EQ(names.size(), 81u);
   for (const std::string& name : names) EXPECT_NE(name[0], 'I');
-  EXPECT_EQ(RowName(state, 8), "J");
+  EXPECT_EQ(RowName(8), "J");
   EXPECT_EQ(ColumnName(8), "9");
 }
 

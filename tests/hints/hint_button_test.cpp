@@ -1,9 +1,8 @@
 // One click of the hint button: what it checks, in which order, and what it says.
-#include "hints/hint_button.h"
+#include "shell/hint_button.h"
 
 #include <gtest/gtest.h>
 
-#include "hints/special_pass.h"
 #include "tests/hints/solving_program.h"
 
 namespace tessel {
@@ -229,44 +228,6 @@ TEST_F(HintTexts, AssignmentsAreSavelyMade) {
   state().Candidates[0] = BitOf(1);
   EXPECT_EQ(Hint(), "A candidate can savely be assigned to cell A1");
   EXPECT_EQ(Hint(), "Candidate 1 can savely be assigned to cell A1");
-}
-
-struct HintExtras : testing::Test {
-  HintExtras() { FillTables(state); }
-
-  GameState state;
-  RecordingView view;
-  FakeSoundPlayer player;
-  Form form{view};
-  Sounds sounds{state, player};
-};
-
-TEST_F(HintExtras, WriteHintDoesNothing) {
-  HintButton(state, form, sounds).WriteHint();
-  EXPECT_EQ(view.changes, 0);
-  EXPECT_EQ(form.TextHint(), "Press [Hint] if you got stuck");
-}
-
-TEST_F(HintExtras, AddTextAppendsWhereverTheSelectionIs) {
-  HintButton button(state, form, sounds);
-  button.AddText("one, ");
-  form.SelectText1(0, 3);
-  button.AddText("two");
-  EXPECT_EQ(form.Text1(), "one, two");
-}
-
-TEST_F(HintExtras, SpecialPencilmarksShowsEveryMarkInOneOfTwoColours) {
-  SpecialPass pass(state, form, sounds);
-  for (const bool highlighted : {true, false}) {
-    for (int cell = 0; cell < kCellCount; ++cell) form.SetMarksVisible(cell, false);
-    pass.SpecialPencilmarks(highlighted);
-    for (int cell = 0; cell < kCellCount; ++cell) {
-      for (int digit = 1; digit <= kSide; ++digit) {
-        EXPECT_TRUE(form.Mark(cell, digit).visible);
-        EXPECT_EQ(form.Mark(cell, digit).colour, highlighted ? (Rgb{0x10, 0xD0, 0xD0}) : kBlack);
-      }
-    }
-  }
 }
 
 }  // namespace

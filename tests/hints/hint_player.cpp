@@ -43,38 +43,38 @@ int SizeNamedIn(const std::string& sentence) {
 std::string NameOf(HintCode kind, const std::string& sentence) {
   const std::string subset = sentence.substr(2, sentence.find(" is present") - 2);
   switch (kind) {
-    case HintCode::None:
+    case HintCode::kNone:
       return "nothing";
-    case HintCode::NakedSingle:
+    case HintCode::kNakedSingle:
       return "naked single";
-    case HintCode::HiddenSingleRow:
+    case HintCode::kHiddenSingleRow:
       return "hidden single in a row";
-    case HintCode::HiddenSingleColumn:
+    case HintCode::kHiddenSingleColumn:
       return "hidden single in a column";
-    case HintCode::HiddenSingleCage:
+    case HintCode::kHiddenSingleCage:
       return "hidden single in a cage";
-    case HintCode::PointingPair:
+    case HintCode::kPointingPair:
       return "pointing";
-    case HintCode::BoxLineRow:
+    case HintCode::kBoxLineRow:
       return "box-line in a row";
-    case HintCode::BoxLineColumn:
+    case HintCode::kBoxLineColumn:
       return "box-line in a column";
-    case HintCode::NakedSubsetRow:
-    case HintCode::HiddenSubsetRow:
+    case HintCode::kNakedSubsetRow:
+    case HintCode::kHiddenSubsetRow:
       return subset + " in a row";
-    case HintCode::NakedSubsetColumn:
-    case HintCode::HiddenSubsetColumn:
+    case HintCode::kNakedSubsetColumn:
+    case HintCode::kHiddenSubsetColumn:
       return subset + " in a column";
-    case HintCode::NakedSubsetCage:
-    case HintCode::HiddenSubsetCage:
+    case HintCode::kNakedSubsetCage:
+    case HintCode::kHiddenSubsetCage:
       return subset + " in a cage";
-    case HintCode::XWingRows:
+    case HintCode::kXWingRows:
       return "X-Wing on rows";
-    case HintCode::XWingColumns:
+    case HintCode::kXWingColumns:
       return "X-Wing on columns";
-    case HintCode::SwordFishRows:
+    case HintCode::kSwordFishRows:
       return "SwordFish on rows";
-    case HintCode::SwordFishColumns:
+    case HintCode::kSwordFishColumns:
       return "SwordFish on columns";
   }
   return "unknown";
@@ -103,7 +103,7 @@ void HintPlayer::AskSpecialPass() {
   if (state_.AssignmentPending == Bool16::True) {
     ++specialAnnouncements;
     const int cell = state_.HintCell;
-    if (state_.HintKind == HintCode::NakedSingle) {
+    if (state_.HintKind == HintCode::kNakedSingle) {
       EXPECT_EQ(state_.SpecialMarks[cell], BitOf(SolutionOf(cell))) << "cell " << cell;
     } else {
       EXPECT_EQ(state_.HintDigit, SolutionOf(cell)) << "cell " << cell;
@@ -142,28 +142,28 @@ void HintPlayer::Follow(const std::string& sentence) {
 // The cells of the house that the hint's code and unit name.
 std::vector<int> HintPlayer::NamedHouse() const {
   switch (state_.HintKind) {
-    case HintCode::HiddenSingleRow:
-    case HintCode::BoxLineRow:
-    case HintCode::NakedSubsetRow:
-    case HintCode::HiddenSubsetRow:
+    case HintCode::kHiddenSingleRow:
+    case HintCode::kBoxLineRow:
+    case HintCode::kNakedSubsetRow:
+    case HintCode::kHiddenSubsetRow:
       return RowCells(state_.HintUnit1);
-    case HintCode::HiddenSingleColumn:
-    case HintCode::BoxLineColumn:
-    case HintCode::NakedSubsetColumn:
-    case HintCode::HiddenSubsetColumn:
+    case HintCode::kHiddenSingleColumn:
+    case HintCode::kBoxLineColumn:
+    case HintCode::kNakedSubsetColumn:
+    case HintCode::kHiddenSubsetColumn:
       return ColumnCells(state_.HintUnit2);
-    case HintCode::HiddenSingleCage:
+    case HintCode::kHiddenSingleCage:
       return CageCellsOf(state_, state_.HintUnit3 + 1);
-    case HintCode::NakedSubsetCage:
-    case HintCode::HiddenSubsetCage:
+    case HintCode::kNakedSubsetCage:
+    case HintCode::kHiddenSubsetCage:
       return CageCellsOf(state_, state_.HintUnit3);
-    case HintCode::None:
-    case HintCode::NakedSingle:
-    case HintCode::PointingPair:
-    case HintCode::XWingRows:
-    case HintCode::XWingColumns:
-    case HintCode::SwordFishRows:
-    case HintCode::SwordFishColumns:
+    case HintCode::kNone:
+    case HintCode::kNakedSingle:
+    case HintCode::kPointingPair:
+    case HintCode::kXWingRows:
+    case HintCode::kXWingColumns:
+    case HintCode::kSwordFishRows:
+    case HintCode::kSwordFishColumns:
       break;
   }
   ADD_FAILURE() << "the hint names no house";
@@ -173,7 +173,7 @@ std::vector<int> HintPlayer::NamedHouse() const {
 void HintPlayer::PlaceSingle() {
   const int cell = state_.HintCell;
   Mask digits = At(cell);
-  if (state_.HintKind != HintCode::NakedSingle) {
+  if (state_.HintKind != HintCode::kNakedSingle) {
     for (const int other : NamedHouse()) {
       if (other != cell) digits = Without(digits, At(other));
     }
@@ -242,7 +242,7 @@ void HintPlayer::FindHidden(const std::vector<int>& house, int size) {
 
 void HintPlayer::FindFish(int lines) {
   const bool byRows =
-      state_.HintKind == HintCode::XWingRows || state_.HintKind == HintCode::SwordFishRows;
+      state_.HintKind == HintCode::kXWingRows || state_.HintKind == HintCode::kSwordFishRows;
   const auto cellAt = [&](int line, int place) {
     return byRows ? CellAt(line, place) : CellAt(place, line);
   };

@@ -1,7 +1,7 @@
 // Pointing pairs and box-line.
 #include <gtest/gtest.h>
 
-#include "hints/techniques.h"
+#include "shell/hint_techniques.h"
 #include "tests/hints/mark_board.h"
 
 namespace tessel {

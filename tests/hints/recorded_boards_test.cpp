@@ -5,7 +5,7 @@
 #include <set>
 #include <utility>
 
-#include "hints/techniques.h"
+#include "shell/hint_techniques.h"
 #include "tests/hints/solving_program.h"
 
 namespace tessel {
@@ -68,11 +68,11 @@ std::vector<int> RungsThatFind(GameState& state) {
                                 techniques.HiddenSingle(),
                                 techniques.PointingPair(),
                                 techniques.BoxLine(),
-                                techniques.NakedHidden(Subset::Naked, CountSubset{2}),
-                                techniques.NakedHidden(Subset::Naked, CountSubset{3}),
-                                techniques.NakedHidden(Subset::Hidden, CountSubset{2}),
-                                techniques.NakedHidden(Subset::Naked, CountSubset{4}),
-                                techniques.NakedHidden(Subset::Hidden, CountSubset{3}),
+                                techniques.NakedHidden(Subset::kNaked, CountSubset{2}),
+                                techniques.NakedHidden(Subset::kNaked, CountSubset{3}),
+                                techniques.NakedHidden(Subset::kHidden, CountSubset{2}),
+                                techniques.NakedHidden(Subset::kNaked, CountSubset{4}),
+                                techniques.NakedHidden(Subset::kHidden, CountSubset{3}),
                                 techniques.XWing(),
                                 techniques.SwordFish()};
   std::vector<int> rungs;

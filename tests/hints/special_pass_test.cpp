@@ -1,5 +1,5 @@
 // The special pass: its techniques on SpecialMarks, and the announcement through the button.
-#include "hints/special_pass.h"
+#include "shell/special_pass.h"
 
 #include <gtest/gtest.h>
 
@@ -15,8 +15,8 @@ struct SpecialTechniques : testing::Test, MarkBoard {
     state.SpecialMarks = state.Candidates;
     state.Candidates.fill(0);
   }
-  bool Naked(int size) { return pass.SpNakedHidden(CountSubset{size}, Subset::Naked); }
-  bool Hidden(int size) { return pass.SpNakedHidden(CountSubset{size}, Subset::Hidden); }
+  bool Naked(int size) { return pass.SpNakedHidden(CountSubset{size}, Subset::kNaked); }
+  bool Hidden(int size) { return pass.SpNakedHidden(CountSubset{size}, Subset::kHidden); }
   tessel::Mask At(int row, int column) const { return state.SpecialMarks[CellAt(row, column)]; }
 
   RecordingView view;

@@ -1,15 +1,15 @@
 // Naked and hidden subsets.
 #include <gtest/gtest.h>
 
-#include "hints/techniques.h"
+#include "shell/hint_techniques.h"
 #include "tests/hints/mark_board.h"
 
 namespace tessel {
 namespace {
 
 struct Subsets : testing::Test, MarkBoard {
-  bool Naked(int size) { return techniques.NakedHidden(Subset::Naked, CountSubset{size}); }
-  bool Hidden(int size) { return techniques.NakedHidden(Subset::Hidden, CountSubset{size}); }
+  bool Naked(int size) { return techniques.NakedHidden(Subset::kNaked, CountSubset{size}); }
+  bool Hidden(int size) { return techniques.NakedHidden(Subset::kHidden, CountSubset{size}); }
 
   HintTechniques techniques{state};
 };

@@ -6,6 +6,7 @@
 
 #include <vector>
 
+#include "core/names.h"
 #include "tests/fakes/test_program.h"
 #include "tests/shell/known_puzzle.h"
 #include "tests/shell/snapshot.h"
@@ -85,7 +86,7 @@ class SolvingTest : public testing::Test {
   std::string RedCaptions() {
     std::string red;
     for (int line = 0; line < kSide; ++line) {
-      if (form().LabelRow(line) == kHighlightRed) red += RowName(state(), line);
+      if (form().LabelRow(line) == kHighlightRed) red += RowName(line);
     }
     for (int line = 0; line < kSide; ++line) {
       if (form().LabelColumn(line) == kHighlightRed) red += ColumnName(line);

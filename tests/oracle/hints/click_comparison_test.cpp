@@ -6,7 +6,7 @@
 #include <string>
 
 #include "core/texts.h"
-#include "hints/hint_button.h"
+#include "shell/hint_button.h"
 #include "tests/fakes/fake_sound_player.h"
 #include "tests/fakes/recording_view.h"
 #include "tests/oracle/hints/comparison.h"

@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "hints/special_pass.h"
-#include "hints/techniques.h"
+#include "shell/hint_techniques.h"
+#include "shell/special_pass.h"
 #include "tests/fakes/fake_sound_player.h"
 #include "tests/fakes/recording_view.h"
 #include "tests/oracle/hints/comparison.h"
@@ -64,7 +64,7 @@ class TechniquesComparison : public testing::TestWithParam<int> {
   void AddSubset(int size) {
     for (const bool naked : {true, false}) {
       const std::string name = (naked ? "Naked " : "Hidden ") + std::to_string(size);
-      const Subset subset = naked ? Subset::Naked : Subset::Hidden;
+      const Subset subset = naked ? Subset::kNaked : Subset::kHidden;
       Add(
           name, [=, this] { return normal_.NakedHidden(subset, CountSubset{size}); },
           [=](LiteralHints& hints) { return hints.NakedHidden(naked, size); });
@@ -94,7 +94,7 @@ class TechniquesComparison : public testing::TestWithParam<int> {
     ASSERT_EQ(state_.Candidates, MasksOf(expected.Candidates)) << technique.name << scene;
     ASSERT_EQ(state_.PlayBoard, board) << technique.name << scene;
     if (found && !technique.special)
-      ++finds_[state_.HintKind == HintCode::None ? 0 : expected.HintKind];
+      ++finds_[state_.HintKind == HintCode::kNone ? 0 : expected.HintKind];
     if (found) ++findsOf_[technique.name];
   }
 

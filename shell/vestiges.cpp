@@ -1,13 +1,15 @@
-#include "hints/candidate_marks.h"
+#include "shell/vestiges.h"
 
 #include <algorithm>
+#include <cassert>
 #include <optional>
-
-#include "core/texts.h"
 
 namespace tessel {
 
 namespace {
+
+constexpr Rgb kSpecialMark{0x10, 0xD0, 0xD0};
+constexpr Rgb kWindowText = kBlack;
 
 // To exactly one entry more than there are steps, as entry 0 is unused.
 void ResizeUndoArrays(GameState& state) {
@@ -34,7 +36,7 @@ struct UndoBit {
   int k = 0;
 };
 
-// Where the removal from `peer` is written down: the first of row, column and cage that it shares
+// Where the removal from `peer` is recorded: in the first of row, column and cage that it shares
 // with `cell`.
 std::optional<UndoBit> UndoBitFor(GameState& state, int cell, int peer) {
   const int top = state.UndoCount;
@@ -48,29 +50,8 @@ std::optional<UndoBit> UndoBitFor(GameState& state, int cell, int peer) {
 
 }  // namespace
 
-void CandidateMarks::SwitchPencilmarksOn() {
-  Refresh(state_.Candidates);
-}
-
-void CandidateMarks::SwitchPencilmarksOff() {
-  MaskBoard all;
-  all.fill(kAllCandidates);
-  Refresh(all);
-}
-
-void CandidateMarks::Refresh(const MaskBoard& shown) {
-  state_.AssignmentPending = Bool16::False;
-  form_.SetButtonCaption(Button::CommandHint, texts::kHint);
-  for (int cell = 0; cell < kCellCount; ++cell) {
-    const int entry = state_.PlayBoard.Board[cell];
-    form_.SetCellText(cell, entry);
-    for (int digit = 1; digit <= kSide; ++digit) {
-      form_.SetMarkVisible(cell, digit, entry == 0 && Holds(shown[cell], digit));
-    }
-  }
-}
-
-void CandidateMarks::RemoveCandidates(int Cell, int Candidate, int RemovePtr) {
+void Vestiges::RemoveCandidates(int Cell, int Candidate, int RemovePtr) {
+  assert(RemovePtr < kCellCount);
   PushStep(state_, Cell, Candidate);
   for (int i = 0; i <= RemovePtr; ++i) {
     const int peer = state_.CellList[i];
@@ -84,7 +65,7 @@ void CandidateMarks::RemoveCandidates(int Cell, int Candidate, int RemovePtr) {
 }
 
 // Deliberate: the entry is cleared in WorkGrid, not on the board as played.
-void CandidateMarks::Undo() {
+void Vestiges::Undo() {
   if (state_.UndoCount == 0) return;
   const int top = state_.UndoCount;
   const int cell = state_.UndoCell[top];
@@ -101,6 +82,20 @@ void CandidateMarks::Undo() {
     if (!cage.empty()) putBack(state_.UndoCageMask[top], k, cage[k]);
   }
   --state_.UndoCount;
+}
+
+void Vestiges::WriteHint() {}
+
+void Vestiges::AddText(const std::string& TextLine) {
+  form_.SelectText1(65535, 0);
+  form_.ReplaceText1Selection(TextLine);
+}
+
+void Vestiges::SpecialPencilmarks(bool highlighted) {
+  for (int cell = 0; cell < kCellCount; ++cell) {
+    form_.SetMarksColour(cell, highlighted ? kSpecialMark : kWindowText);
+    form_.SetMarksVisible(cell, true);
+  }
 }
 
 }  // namespace tessel

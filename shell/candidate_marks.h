@@ -1,4 +1,4 @@
-// The pencil marks of the solving mode, and candidate removal with its undo record.
+// The pencil marks of the solving mode.
 #pragma once
 
 #include "core/form.h"
@@ -14,12 +14,6 @@ class CandidateMarks {
   // "Hint". An empty cell shows its candidates (On) or all nine marks (Off).
   void SwitchPencilmarksOn();
   void SwitchPencilmarksOff();
-
-  // Pushes an undo step for placing `Candidate` in `Cell` and removes it from the cells at
-  // positions 0..RemovePtr of CellList that share a house with `Cell`. No command invokes it.
-  void RemoveCandidates(int Cell, int Candidate, int RemovePtr);
-  // Takes the newest step back; does nothing when there is none. No command invokes it.
-  void Undo();
 
  private:
   // An empty cell shows its mask in `shown`.
