@@ -18,7 +18,7 @@ struct Stages {
   double Seconds() const { return saw.Sum() + fill.Sum() + conceal.Sum(); }
 };
 
-Stages MakePuzzles(LayoutKind layout, ConcealKind cells, int puzzles) {
+Stages MakePuzzles(LayoutKind layout, ConcealMode cells, int puzzles) {
   Engine engine;
   std::vector<double> saw;
   std::vector<double> fill;
@@ -26,8 +26,8 @@ Stages MakePuzzles(LayoutKind layout, ConcealKind cells, int puzzles) {
   for (int i = 0; i < puzzles; ++i) {
     const auto seed = static_cast<std::uint64_t>(i);
     saw.push_back(SecondsOf([&] { engine.SawFillableLayout(layout, seed); }));
-    fill.push_back(SecondsOf([&] { engine.Fill(seed); }));
-    conceal.push_back(SecondsOf([&] { engine.Conceal(cells, seed); }));
+    fill.push_back(SecondsOf([&] { engine.FillLayout(seed); }));
+    conceal.push_back(SecondsOf([&] { engine.ConcealSolution(cells, seed); }));
   }
   return {Distribution(saw), Distribution(fill), Distribution(conceal)};
 }
@@ -55,8 +55,8 @@ int main(int argc, char** argv) {
   using namespace tessel::bench;
   const int puzzles = argc > 1 ? std::atoi(argv[1]) : 5000;
   std::printf("Whole commands without a window, processor time on this machine\n");
-  PrintStages("irregular, random", MakePuzzles(LayoutKind::kRandom, ConcealKind::kSingle, puzzles));
+  PrintStages("irregular, random", MakePuzzles(LayoutKind::kRandom, ConcealMode::kSingle, puzzles));
   PrintStages("irregular, rotational, concealed in pairs",
-              MakePuzzles(LayoutKind::kRotational, ConcealKind::kPairs, puzzles));
-  PrintStages("regular", MakePuzzles(LayoutKind::kRegular, ConcealKind::kSingle, puzzles));
+              MakePuzzles(LayoutKind::kRotational, ConcealMode::kPairs, puzzles));
+  PrintStages("regular", MakePuzzles(LayoutKind::kRegular, ConcealMode::kSingle, puzzles));
 }

@@ -1,76 +1,70 @@
-// The generation stages of the program behind ports that cost next to nothing.
+// The generation without a window: one stage after another, each from a seed of its own, so that a
+// layout does not depend on what was sawn before it.
 #pragma once
 
-#include "core/form.h"
-#include "core/game_state.h"
 #include "core/random_source.h"
 #include "layout/cage_generator.h"
 #include "search/conceal.h"
-#include "search/exact_cover_search.h"
 #include "search/fill.h"
-#include "search/try_out.h"
-#include "tests/fakes/fake_clock.h"
+#include "search/random_restarts.h"
 
 namespace tessel::bench {
 
 enum class LayoutKind : std::uint8_t { kRandom, kRotational, kRegular };
-enum class ConcealKind : std::uint8_t { kSingle, kPairs };
 
-class QuietView final : public View {
+class StepCount final : public Progress {
  public:
-  void Show() override {}
-  std::int32_t WindowHandle() override { return 0; }
-  void PumpEvents() override { ++pumps; }
-  bool AskYesNo(const std::string& /*question*/, const std::string& /*title*/) override {
-    return true;
-  }
-  void Beep() override {}
-  void EndProgram() override {}
-  void FormChanged(FormPart /*part*/, int /*index*/) override {}
+  void Step() override { ++steps; }
 
-  std::int64_t pumps = 0;
+  std::int64_t steps = 0;
 };
 
-// Every stage is seeded on its own, so that a layout does not depend on what was sawn before it.
 class Engine {
  public:
-  Engine() { FillTables(state); }
-
+  void Use(const Layout& other) {
+    layout = other;
+    search.Use(layout);
+  }
   // Keeps the first layout that the walk completes, whether it can be filled or not.
   void SawAnyLayout(LayoutKind kind, std::uint64_t seed) {
-    Saw(kind, seed, [] { return true; });
+    SawLayout(kind, seed, [](const Layout&) { return true; });
   }
   // The Saw command's work: layouts are sawn until one can be filled.
   void SawFillableLayout(LayoutKind kind, std::uint64_t seed) {
-    Saw(kind, seed, [this] { return AdmitsFilling(state, view, search); });
+    SawLayout(kind, seed, [this](const Layout& sawn) {
+      search.Use(sawn);
+      return FindsFillingWithinBudget(search, progress);
+    });
   }
-  void Fill(std::uint64_t seed) {
-    clock_.nextSeed = seed;
-    FillGenerator(state, form, view, random, clock_, search).GenerateTessel();
+  // Leaves the filling of the layout in `solution`.
+  void FillLayout(std::uint64_t seed) {
+    SeededRandom random(seed);
+    search.Use(layout);
+    solution = Fill(search, random, progress).value();
   }
-  // Takes the solution in WorkGrid, which stays, and leaves its givens in Puzzle.
-  void Conceal(ConcealKind kind, std::uint64_t seed) {
-    form.SetChecked(CheckBox::ConcealRotational, kind == ConcealKind::kPairs);
-    clock_.nextSeed = seed;
-    Concealer(state, form, view, random, clock_, search).ConcealCells2ValidTessel();
+  // Leaves the givens of `solution` in `givens`.
+  void ConcealSolution(ConcealMode mode, std::uint64_t seed) {
+    SeededRandom random(seed);
+    search.Use(layout);
+    givens = Conceal(search, solution, mode, random, progress).value();
   }
 
-  GameState state;
-  QuietView view;
-  Form form{view};
-  SeededRandom random;
-  ExactCoverSearch search{state, view};
+  Layout layout = Layout::Regular();
+  Grid solution{};
+  Grid givens{};
+  StepCount progress;
+  ExactCoverSearch search{Layout::Regular()};
 
  private:
-  void Saw(LayoutKind kind, std::uint64_t seed, CageGenerator::AcceptLayout accept) {
-    CageGenerator generator(state, form, view, random, clock_, std::move(accept));
-    if (kind == LayoutKind::kRegular) return generator.BuildRegularLayout();
-    form.SetChecked(CheckBox::Rotational, kind == LayoutKind::kRotational);
-    clock_.nextSeed = seed;
-    generator.BuildTesselPattern();
+  void SawLayout(LayoutKind kind, std::uint64_t seed, const AcceptLayout& accept) {
+    if (kind == LayoutKind::kRegular) {
+      layout = Layout::Regular();
+      return;
+    }
+    const auto symmetry = kind == LayoutKind::kRotational ? Symmetry::kHalfTurn : Symmetry::kNone;
+    SeededRandom random(seed);
+    layout = Saw(symmetry, random, accept, progress).value();
   }
-
-  FakeClock clock_;
 };
 
 }  // namespace tessel::bench

@@ -1,4 +1,5 @@
-// What a try-out may take and when to give a layout up, by measurement: see search/try_out.h.
+// What a try-out may take and when to give a layout up, by measurement: see
+// search/random_restarts.h.
 //   limits [LAYOUTS [LAYOUTS FOR THE BOUND]]
 #include <cmath>
 #include <cstdio>
@@ -14,13 +15,13 @@
 namespace tessel::bench {
 namespace {
 
-constexpr std::int64_t kPatience = 10 * kSolvabilityBound;
+constexpr std::int64_t kPatience = 10 * kRestartBudget;
 constexpr long kProofNodes = 10'000'000;
 
 class Limit final : public SearchDriver {
  public:
   explicit Limit(std::int64_t iterations) : left_(iterations) {}
-  bool Proceed() override { return --left_ >= 0; }
+  bool BeforeIteration() override { return --left_ >= 0; }
   bool ContinueAfterSolution() override { return false; }
 
  private:
@@ -33,17 +34,25 @@ std::optional<std::int64_t> IterationsToFill(Engine& engine, std::int64_t limit,
                                              std::int64_t allowed) {
   SeededRandom random;
   const std::int64_t start = engine.search.Iterations();
+  engine.search.Use(engine.layout);
   while (engine.search.Iterations() - start < allowed) {
     engine.search.StartEmpty(oracle::DrawOrder(random));
     Limit driver(limit);
-    if (engine.search.Run(driver) == SearchEnd::kSolved) return engine.search.Iterations() - start;
+    if (engine.search.Run(driver) == SearchResult::kSolved)
+      return engine.search.Iterations() - start;
   }
   return std::nullopt;
 }
 
+oracle::Grid OracleGrid(const CageNumbers& cages) {
+  oracle::Grid grid{};
+  std::ranges::copy(cages, grid.begin());
+  return grid;
+}
+
 // Nothing when the proof was given up.
 std::optional<bool> HasFilling(const Engine& engine) {
-  return oracle::IndependentSolver(oracle::LayoutOf(engine.state.CageOfCell))
+  return oracle::IndependentSolver(oracle::LayoutOf(OracleGrid(engine.layout.Cages())))
       .HasFilling(kProofNodes);
 }
 
@@ -63,7 +72,7 @@ void PrintTryOutLimits(LayoutKind kind, int layouts) {
     double seconds = 0;
     for (std::uint64_t seed = 0; std::ssize(iterations) < layouts; ++seed) {
       engine.SawAnyLayout(kind, seed);
-      if (!IterationsToFill(engine, kTryOutLimit, kPatience)) continue;
+      if (!IterationsToFill(engine, kRestartCutoff, kPatience)) continue;
       seconds += SecondsOf([&] {
         const auto needed = IterationsToFill(engine, limit, INT64_MAX);
         iterations.push_back(static_cast<double>(needed.value()));
@@ -87,10 +96,10 @@ Needs MeasureNeeds(LayoutKind kind, int layouts) {
   Needs needs;
   for (int seed = 0; seed < layouts; ++seed) {
     engine.SawAnyLayout(kind, static_cast<std::uint64_t>(seed));
-    auto found = IterationsToFill(engine, kTryOutLimit, kSolvabilityBound);
+    auto found = IterationsToFill(engine, kRestartCutoff, kRestartBudget);
     const auto filling = found ? std::optional(true) : HasFilling(engine);
     if (filling == false) ++needs.provenEmpty;
-    if (filling != false && !found) found = IterationsToFill(engine, kTryOutLimit, kPatience);
+    if (filling != false && !found) found = IterationsToFill(engine, kRestartCutoff, kPatience);
     if (!filling && !found) ++needs.unknown;
     needs.iterations.push_back(found ? static_cast<double>(*found) : INFINITY);
   }
@@ -101,7 +110,7 @@ Needs MeasureNeeds(LayoutKind kind, int layouts) {
 void PrintBounds(LayoutKind kind, int layouts) {
   const Needs needs = MeasureNeeds(kind, layouts);
   std::printf("\nSolvability of %d %s layouts, tries of %ld: none in %d, unknown in %d\n", layouts,
-              NameOf(kind), static_cast<long>(kTryOutLimit), needs.provenEmpty, needs.unknown);
+              NameOf(kind), static_cast<long>(kRestartCutoff), needs.provenEmpty, needs.unknown);
   std::printf("%10s %10s %20s %18s\n", "bound", "given up", "not proven empty", "mean iterations");
   for (const double bound : {20e3, 50e3, 100e3, 200e3, 300e3, 400e3, 700e3, 1e6}) {
     double givenUp = 0;

@@ -20,10 +20,10 @@ void MakePuzzles(int puzzles, LayoutKind kind, std::uint64_t firstSeed) {
   for (int i = 0; i < puzzles; ++i) {
     const std::uint64_t seed = firstSeed + static_cast<std::uint64_t>(i);
     engine.SawFillableLayout(kind, seed);
-    engine.Fill(seed);
-    engine.Conceal(ConcealKind::kSingle, seed);
-    PrintDigits(engine.state.Puzzle, ' ');
-    PrintDigits(engine.state.CageOfCell, '\n');
+    engine.FillLayout(seed);
+    engine.ConcealSolution(ConcealMode::kSingle, seed);
+    PrintDigits(engine.givens, ' ');
+    PrintDigits(engine.layout.Cages(), '\n');
   }
 }
 

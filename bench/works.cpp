@@ -1,18 +1,18 @@
 #include "bench/works.h"
 
 #include <memory>
-#include <span>
 
 #include "bench/engine.h"
 #include "tests/oracle/search/literal_conceal.h"
+#include "tests/oracle/search/program_layout.h"
 #include "tests/oracle/search/samples.h"
 
 namespace tessel::bench {
 
 namespace {
 
-using oracle::Grid;
-using oracle::Layout;
+using OracleGrid = oracle::Grid;
+using OracleLayout = oracle::Layout;
 using oracle::LiteralConceal;
 using oracle::LiteralLayout;
 using oracle::LiteralSearch;
@@ -35,15 +35,16 @@ const char* NameOf(LayoutKind kind) {
   return "";
 }
 
-void Append(std::vector<std::int16_t>& results, std::span<const std::int16_t> board) {
+template <typename Board>
+void Append(std::vector<std::int16_t>& results, const Board& board) {
   results.insert(results.end(), board.begin(), board.begin() + kCellCount);
 }
 
 // A layout with a solution of it.
 struct Sample {
   std::uint64_t seed;
-  Layout layout;
-  Grid solution;
+  OracleLayout layout;
+  OracleGrid solution;
 };
 using Samples = std::shared_ptr<const std::vector<Sample>>;
 
@@ -52,7 +53,7 @@ LiteralLayout::Mode ModeOf(LayoutKind kind) {
                                          : LiteralLayout::Mode::kRandom;
 }
 
-Layout LayoutOf(LayoutKind kind, std::uint64_t seed) {
+OracleLayout LayoutOf(LayoutKind kind, std::uint64_t seed) {
   return kind == LayoutKind::kRegular ? oracle::RegularLayout()
                                       : oracle::SampleLayout(seed, ModeOf(kind));
 }
@@ -60,17 +61,12 @@ Layout LayoutOf(LayoutKind kind, std::uint64_t seed) {
 Samples DrawSamples(LayoutKind kind) {
   std::vector<Sample> samples;
   for (std::uint64_t seed = 0; std::ssize(samples) < kSolutions; ++seed) {
-    const Layout layout = LayoutOf(kind, seed);
+    const OracleLayout layout = LayoutOf(kind, seed);
     if (const auto solution = oracle::SampleSolution(layout, seed)) {
       samples.push_back({seed, layout, *solution});
     }
   }
   return std::make_shared<const std::vector<Sample>>(std::move(samples));
-}
-
-void TakeLayout(Engine& engine, const Layout& layout) {
-  engine.state.CageOfCell = layout.cageOfCell;
-  engine.state.CageCells = layout.cageCells;
 }
 
 // Generator alone: every complete layout is kept.
@@ -80,9 +76,9 @@ Work LayoutWork(LayoutKind kind) {
     Outcome outcome;
     for (std::uint64_t seed = 0; seed < kLayouts; ++seed) {
       engine.SawAnyLayout(kind, seed);
-      Append(outcome.results, engine.state.CageOfCell);
+      Append(outcome.results, engine.layout.Cages());
     }
-    outcome.pumps = engine.view.pumps;
+    outcome.pumps = engine.progress.steps;
     return outcome;
   };
   const auto literal = [kind] {
@@ -100,21 +96,21 @@ Work LayoutWork(LayoutKind kind) {
 }
 
 struct Search {
-  Layout layout;
-  Grid order;
+  OracleLayout layout;
+  OracleGrid order;
 };
 
 class StoppedSearch final : public SearchDriver {
  public:
-  explicit StoppedSearch(View& view) : view_(view) {}
-  bool Proceed() override {
-    view_.PumpEvents();
+  explicit StoppedSearch(Progress& progress) : progress_(progress) {}
+  bool BeforeIteration() override {
+    progress_.Step();
     return ++pumps_ < kSearchPumps;
   }
   bool ContinueAfterSolution() override { return false; }
 
  private:
-  View& view_;
+  Progress& progress_;
   std::int64_t pumps_ = 0;
 };
 
@@ -122,14 +118,14 @@ Outcome SearchByProduct(const std::vector<Search>& searches) {
   Engine engine;
   Outcome outcome;
   for (const Search& search : searches) {
-    TakeLayout(engine, search.layout);
+    engine.Use(oracle::ProgramLayout(search.layout));
     engine.search.StartEmpty(search.order);
-    StoppedSearch driver(engine.view);
-    const SearchEnd end = engine.search.Run(driver);
-    if (end == SearchEnd::kSolved) Append(outcome.results, engine.search.Top().Digit);
+    StoppedSearch driver(engine.progress);
+    const SearchResult end = engine.search.Run(driver);
+    if (end == SearchResult::kSolved) Append(outcome.results, engine.search.Top().Digit);
   }
   outcome.iterations = engine.search.Iterations();
-  outcome.pumps = engine.view.pumps;
+  outcome.pumps = engine.progress.steps;
   return outcome;
 }
 
@@ -162,31 +158,32 @@ Work SearchWork(const std::vector<Samples>& irregular) {
           [searches] { return SearchByOracle(*searches); }};
 }
 
-Outcome ConcealByProduct(const std::vector<Sample>& samples, ConcealKind kind) {
+Outcome ConcealByProduct(const std::vector<Sample>& samples, ConcealMode kind) {
   Engine engine;
   Outcome outcome;
   for (const Sample& sample : samples) {
-    TakeLayout(engine, sample.layout);
-    engine.state.WorkGrid = sample.solution;
-    engine.Conceal(kind, sample.seed);
-    Append(outcome.results, engine.state.Puzzle);
+    engine.Use(oracle::ProgramLayout(sample.layout));
+    engine.solution = GridOf(sample.solution);
+    engine.ConcealSolution(kind, sample.seed);
+    Append(outcome.results, engine.givens);
   }
   outcome.iterations = engine.search.Iterations();
-  outcome.pumps = engine.view.pumps;
+  outcome.pumps = engine.progress.steps;
   return outcome;
 }
 
-using OnCall = std::function<void(const Sample&, const Grid& givens)>;
+using OnCall = std::function<void(const Sample&, const OracleGrid& givens)>;
 
-Outcome ConcealByOracle(const std::vector<Sample>& samples, ConcealKind kind,
+Outcome ConcealByOracle(const std::vector<Sample>& samples, ConcealMode kind,
                         const OnCall& onCall = {}) {
   const auto mode =
-      kind == ConcealKind::kPairs ? LiteralConceal::Mode::kPairs : LiteralConceal::Mode::kSingle;
+      kind == ConcealMode::kPairs ? LiteralConceal::Mode::kPairs : LiteralConceal::Mode::kSingle;
   Outcome outcome;
   for (const Sample& sample : samples) {
     SeededRandom random(sample.seed);
     LiteralConceal conceal(sample.layout, random);
-    if (onCall) conceal.onCall = [&](int, const Grid& givens, bool) { onCall(sample, givens); };
+    if (onCall)
+      conceal.onCall = [&](int, const OracleGrid& givens, bool) { onCall(sample, givens); };
     Append(outcome.results, conceal.ConcealCells2ValidTessel(sample.solution, mode).value());
     outcome.iterations += conceal.search.iterations;
     outcome.pumps += conceal.search.pumps;
@@ -194,8 +191,8 @@ Outcome ConcealByOracle(const std::vector<Sample>& samples, ConcealKind kind,
   return outcome;
 }
 
-Work ConcealWork(LayoutKind layout, ConcealKind kind, const Samples& samples) {
-  const char* cells = kind == ConcealKind::kPairs ? "pairs" : "single";
+Work ConcealWork(LayoutKind layout, ConcealMode kind, const Samples& samples) {
+  const char* cells = kind == ConcealMode::kPairs ? "pairs" : "single";
   return {std::string("Conceal, ") + cells + ", " + NameOf(layout), 5, kSolutions,
           [samples, kind] { return ConcealByProduct(*samples, kind); },
           [samples, kind] { return ConcealByOracle(*samples, kind); }};
@@ -203,22 +200,21 @@ Work ConcealWork(LayoutKind layout, ConcealKind kind, const Samples& samples) {
 
 // The uniqueness questions that concealing has put.
 struct Questions {
-  Layout layout;
-  std::vector<Grid> givens;
+  OracleLayout layout;
+  std::vector<OracleGrid> givens;
 };
 
 Outcome AskProduct(const std::vector<Questions>& questions) {
   Engine engine;
   Outcome outcome;
   for (const Questions& asked : questions) {
-    TakeLayout(engine, asked.layout);
-    for (const Grid& givens : asked.givens) {
-      engine.state.WorkGrid = givens;
-      outcome.results.push_back(engine.search.UniqueSolution());
+    engine.Use(oracle::ProgramLayout(asked.layout));
+    for (const OracleGrid& givens : asked.givens) {
+      outcome.results.push_back(engine.search.UniqueSolution(givens, engine.progress));
     }
   }
   outcome.iterations = engine.search.Iterations();
-  outcome.pumps = engine.view.pumps;
+  outcome.pumps = engine.progress.steps;
   return outcome;
 }
 
@@ -226,7 +222,7 @@ Outcome AskOracle(const std::vector<Questions>& questions) {
   Outcome outcome;
   for (const Questions& asked : questions) {
     LiteralSearch search(asked.layout);
-    for (const Grid& givens : asked.givens) {
+    for (const OracleGrid& givens : asked.givens) {
       outcome.results.push_back(search.UniqueSolution(givens).value());
     }
     outcome.iterations += search.iterations;
@@ -238,9 +234,9 @@ Outcome AskOracle(const std::vector<Questions>& questions) {
 Work UniquenessWork(LayoutKind layout, const Samples& samples) {
   auto questions = std::make_shared<std::vector<Questions>>();
   std::int64_t calls = 0;
-  for (const ConcealKind kind : {ConcealKind::kSingle, ConcealKind::kPairs}) {
+  for (const ConcealMode kind : {ConcealMode::kSingle, ConcealMode::kPairs}) {
     const Sample* last = nullptr;
-    ConcealByOracle(*samples, kind, [&](const Sample& sample, const Grid& givens) {
+    ConcealByOracle(*samples, kind, [&](const Sample& sample, const OracleGrid& givens) {
       if (&sample != last) questions->push_back({sample.layout, {}});
       last = &sample;
       questions->back().givens.push_back(givens);
@@ -262,7 +258,7 @@ std::vector<Work> AllWorks() {
   std::vector<Samples> samples;
   for (const LayoutKind kind : kAllKinds) samples.push_back(DrawSamples(kind));
   works.push_back(SearchWork({samples[0], samples[1]}));
-  for (const ConcealKind cells : {ConcealKind::kSingle, ConcealKind::kPairs}) {
+  for (const ConcealMode cells : {ConcealMode::kSingle, ConcealMode::kPairs}) {
     for (std::size_t i = 0; i < kAllKinds.size(); ++i) {
       works.push_back(ConcealWork(kAllKinds[i], cells, samples[i]));
     }

@@ -34,6 +34,9 @@ constexpr Mask BitOf(int digit) {
 constexpr bool Holds(Mask mask, int digit) {
   return (mask & BitOf(digit)) != 0;
 }
+constexpr int CandidateCount(Mask mask) {
+  return std::popcount(static_cast<std::uint16_t>(mask));
+}
 // The mask must not be empty.
 constexpr int LowestDigitOf(Mask mask) {
   return std::countr_zero(static_cast<unsigned>(mask)) + 1;

@@ -55,7 +55,7 @@ constexpr void ForEach(CellSet cells, const Visit& visit) {
 }
 
 // The cells to the left and right of the cells of `cells`, and those themselves.
-constexpr CellSet WithBeside(CellSet cells) {
+constexpr CellSet DilateHorizontally(CellSet cells) {
   constexpr std::uint64_t firstColumn = 0x1008040201;  // of five rows
   constexpr std::uint64_t notFirst = ~firstColumn;
   constexpr std::uint64_t notLast = ~(firstColumn << (kSide - 1));
@@ -66,7 +66,7 @@ constexpr CellSet WithBeside(CellSet cells) {
 }
 
 // The cells above and below the cells of `cells`, and those themselves; may go beyond the board.
-constexpr CellSet WithAboveAndBelow(CellSet cells) {
+constexpr CellSet DilateVertically(CellSet cells) {
   constexpr int seam = CellSet::kUpperCells - kSide;
   return {cells.upper | cells.upper << kSide | cells.upper >> kSide | cells.lower << seam,
           cells.lower | cells.lower << kSide | cells.lower >> kSide | cells.upper >> seam};
@@ -74,7 +74,7 @@ constexpr CellSet WithAboveAndBelow(CellSet cells) {
 
 // The cells outside `cells` that touch one of them by a side.
 constexpr CellSet NeighboursOf(CellSet cells) {
-  return ((WithBeside(cells) | WithAboveAndBelow(cells)) & kAllCells) - cells;
+  return ((DilateHorizontally(cells) | DilateVertically(cells)) & kAllCells) - cells;
 }
 
 // The connected cells of `area` around its lowest-numbered cell; empty when `area` is.
@@ -82,8 +82,8 @@ constexpr CellSet FirstRegionOf(CellSet area) {
   if (area.Empty()) return area;
   CellSet region = CellSet::Of(area.First());
   while (true) {
-    const CellSet wider = WithBeside(region) & area;
-    const CellSet grown = WithAboveAndBelow(wider) & area;
+    const CellSet wider = DilateHorizontally(region) & area;
+    const CellSet grown = DilateVertically(wider) & area;
     if (grown == region) return region;
     region = grown;
   }

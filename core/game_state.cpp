@@ -27,18 +27,9 @@ void FillTables(GameState& state) {
   state.CageColour = kCageColours;
 }
 
-void RebuildCageCells(GameState& state) {
-  std::array<std::size_t, kSide> cellCount{};
-  for (int cell = 0; cell < kCellCount; ++cell) {
-    const auto cage = state.CageOfCell[cell] - 1;
-    state.CageCells[cage][cellCount[cage]++] = static_cast<std::int16_t>(cell);
-  }
-}
-
-std::span<const std::int16_t> CageAround(const GameState& state, int cell) {
-  const int cage = state.CageOfCell[cell];
-  if (cage < 1 || cage > kSide) return {};
-  return state.CageCells[cage - 1];
+void SetLayout(GameState& state, const Layout& layout) {
+  std::ranges::copy(layout.Cages(), state.CageOfCell.begin());
+  for (int cage = 1; cage <= kSide; ++cage) state.CageCells[cage - 1] = layout.CellsOf(cage);
 }
 
 Layout LayoutOf(const GameState& state) {
@@ -46,6 +37,12 @@ Layout LayoutOf(const GameState& state) {
   std::ranges::transform(state.CageOfCell, cages.begin(),
                          [](int cage) { return static_cast<std::uint8_t>(cage); });
   return Layout::FromCages(cages, Layout::Shape::kAny).value();
+}
+
+std::span<const std::int16_t> CageAround(const GameState& state, int cell) {
+  const int cage = state.CageOfCell[cell];
+  if (cage < 1 || cage > kSide) return {};
+  return state.CageCells[cage - 1];
 }
 
 Rgb CageColourOf(const GameState& state, int cell) {

@@ -30,7 +30,7 @@ struct GameState : Position {
   std::array<std::int16_t, kSide> AxisLetters{};  // character codes of the row names, "A".."H", "J"
   std::array<Rgb, kSide> CageColour{};            // index cage - 1
 
-  // The layout. CageCells is derived from CageOfCell, in ascending cell order.
+  // The layout, set by SetLayout. While one is being sawn, CageOfCell alone shows how far it is.
   PerCell<std::int16_t> CageOfCell{};  // cage 1..9, or 0 before the first Saw and while sawing
   std::array<HouseCells, kSide> CageCells{};  // [cage - 1][k]
 
@@ -70,15 +70,13 @@ struct GameState : Position {
 // Fills BitCount, AxisLetters and CageColour.
 void FillTables(GameState& state);
 
-// Rebuilds CageCells from a complete CageOfCell (every cage 1..9 nine times).
-void RebuildCageCells(GameState& state);
+// Writes CageOfCell and CageCells.
+void SetLayout(GameState& state, const Layout& layout);
+// The layout that CageOfCell holds; it must be complete.
+Layout LayoutOf(const GameState& state);
 
 // The cells of the cage that `cell` lies in; none while the cell is in no cage.
 std::span<const std::int16_t> CageAround(const GameState& state, int cell);
-
-// The layout as a value. CageOfCell must be complete (every cage 1..9 nine times); its cages need
-// not be connected.
-Layout LayoutOf(const GameState& state);
 
 // The background of the cell's cage; the board's own colour while the cell is in no cage.
 Rgb CageColourOf(const GameState& state, int cell);

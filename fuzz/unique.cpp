@@ -1,14 +1,14 @@
 // Bytes to a layout and 81 givens, whose uniqueness is held against another solver's answer.
 //
-// Byte 0: the layout. Byte 1: 0 = nothing is changed; else how many cells change cages, and whether
-// some cages are left out. Eleven bytes: a bit for each cell, 1 = given. The rest, two bytes each,
-// if anything is changed: a cell and its number, out of range as it may be.
+// Byte 0: the layout. Byte 1: 0 = nothing is changed; else how many cells change cages. Eleven
+// bytes: a bit for each cell, 1 = given. The rest, two bytes each, if anything is changed: a cell
+// and its number, out of range as it may be.
 #include <utility>
 
 #include "fuzz/input.h"
 #include "search/exact_cover_search.h"
-#include "tests/fakes/recording_view.h"
 #include "tests/oracle/search/independent_solver.h"
+#include "tests/oracle/search/program_layout.h"
 #include "tests/oracle/search/samples.h"
 
 namespace tessel::fuzz {
@@ -72,48 +72,18 @@ Grid DrawGivens(const Grid& solution, int fewest, Input& input) {
   return givens;
 }
 
-class Program {
- public:
-  Program() { FillTables(state_); }
-
-  // `without`: bit k leaves the cells of cage k + 1 in no cage.
-  void Use(const Layout& layout, int without) {
-    state_.CageOfCell = layout.cageOfCell;
-    state_.CageCells = layout.cageCells;
-    for (std::int16_t& cage : state_.CageOfCell) {
-      if ((without >> (cage - 1) & 1) != 0) cage = 0;
-    }
-  }
-  bool UniqueSolution(const Grid& givens) {
-    state_.WorkGrid = givens;
-    const bool unique = search_.UniqueSolution();
-    Require(state_.WorkGrid == givens, "UniqueSolution only reads WorkGrid");
-    return unique;
-  }
-
- private:
-  GameState state_;
-  RecordingView view_;
-  ExactCoverSearch search_{state_, view_};
-};
-
 void Try(Input& input) {
-  static Program program;
+  static ExactCoverSearch search(tessel::Layout::Regular());
   const Sample& sample = DrawSample(input);
   const int kind = input.Byte();
-  const int without = kind >= 192 ? input.Word() : 0;
   const Layout layout = kind % 8 == 0 ? sample.layout : MoveCells(sample.layout, kind % 8, input);
   const Grid givens =
       DrawGivens(sample.solution, kind == 0 ? kFewestGivens : kFewestChangedGivens, input);
-  program.Use(layout, without);
-  if (without != 0) {
-    program.UniqueSolution(givens);
-    return;
-  }
+  search.Use(oracle::ProgramLayout(layout));
   oracle::IndependentSolver solver(layout);
   const auto completions = solver.CountSolutions(givens, 2, kMostPlacements);
   if (!completions) return;
-  Require(program.UniqueSolution(givens) == (completions == 1), "two solvers agree");
+  Require(search.UniqueSolution(givens) == (completions == 1), "two solvers agree");
 }
 
 }  // namespace

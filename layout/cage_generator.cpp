@@ -9,17 +9,16 @@ namespace tessel {
 
 namespace {
 
-constexpr int kMostFailures = 50;  // counted failures of one step that abandon the layout
+constexpr int kMaxFailures = 50;  // counted failures of one step that abandon the attempt
 constexpr int kUnlimited = std::numeric_limits<int>::max();
-constexpr int kCentreCage = 5;
 constexpr int kRotationalCagesToGrow = 4;
 
 // Cage 4 may not touch the centre on perpendicular sides: the centre cage could not leave it.
 constexpr CellSet kAboveAndBelowCentre = CellSet::Of(31) | CellSet::Of(49);
 constexpr CellSet kLeftAndRightOfCentre = CellSet::Of(39) | CellSet::Of(41);
 
-// The cells to the right, below, to the left and above. A move that would leave the board leads
-// back to the cell itself, which comes to the same as the step that ends without effect.
+// The cells to the right, below, to the left and above. A move off the board leads back to the cell
+// itself, so that such a step has no effect and needs no test.
 constexpr PerCell<std::array<std::int8_t, 4>> kNeighbours = [] {
   PerCell<std::array<std::int8_t, 4>> neighbours{};
   for (int cell = 0; cell < kCellCount; ++cell) {
@@ -34,99 +33,78 @@ constexpr PerCell<std::array<std::int8_t, 4>> kNeighbours = [] {
 
 }  // namespace
 
-CageGenerator::CageGenerator(GameState& state, Form& form, View& view, RandomSource& random,
-                             Clock& clock, AcceptLayout accept)
-    : state_(state),
-      form_(form),
-      view_(view),
-      random_(random),
-      clock_(clock),
-      accept_(std::move(accept)) {}
+CageGenerator::CageGenerator(RandomSource& random, Progress& progress)
+    : random_(random), progress_(progress), nextDirection_(DrawDirection()) {}
 
-void CageGenerator::BuildTesselPattern() {
-  random_.Seed(clock_.Seed());
-  nextDirection_ = DrawDirection();
-  while (!Attempt()) {
-  }
-  for (int cell = 0; cell < kCellCount; ++cell) Paint(cell);
-  view_.Beep();
-}
-
-void CageGenerator::BuildRegularLayout() {
-  for (int cell = 0; cell < kCellCount; ++cell) {
-    state_.CageOfCell[cell] =
-        static_cast<std::int16_t>(1 + 3 * (RowOf(cell) / 3) + ColumnOf(cell) / 3);
-  }
-  RebuildCageCells(state_);
-  for (int cell = 0; cell < kCellCount; ++cell) Paint(cell);
-}
-
-bool CageGenerator::Attempt() {
-  state_.CageOfCell.fill(0);
+std::optional<Layout> CageGenerator::Attempt(Symmetry symmetry) {
+  rotational_ = symmetry == Symmetry::kHalfTurn;
+  cages_ = {};
   unclaimed_ = {kAllCells, {}, {}};
-  for (int cell = 0; cell < kCellCount; ++cell) form_.SetCellOpaque(cell, false);
-  rotational_ = form_.Checked(CheckBox::Rotational);
+  if (!GrowAll()) return std::nullopt;
+  return Layout::FromCages(cages_).value();
+}
+
+bool CageGenerator::GrowAll() {
   const int cagesToGrow = rotational_ ? kRotationalCagesToGrow : kSide;
   for (Cage = 1; Cage <= cagesToGrow; ++Cage) {
     if (!GrowCage() || (rotational_ && !MirrorCage())) return false;
   }
-  if (rotational_ && !GrowCentreCage()) return false;
-  RebuildCageCells(state_);
-  return accept_();
+  return !rotational_ || GrowCentreCage();
 }
 
 bool CageGenerator::GrowCage() {
   StartCage(Cage, unclaimed_.All().First());
   GrowthList[0] = CurrentCell;
-  PaintProgress(CurrentCell);
   for (int k = 1; k < kSide; ++k) {
     if (IsEnclosed() || !ClaimNextCell(k)) return false;
     GrowthList[k] = CurrentCell;
-    PaintProgress(CurrentCell);
+    Tell(CurrentCell);
   }
   return true;
 }
 
-// Walks until the cage's cell number k (1..8) is claimed, or too many claims had to be given back.
-bool CageGenerator::ClaimNextCell(int k) {
+// Walks until cell number `cellInCage` (1..8) of the cage is claimed, or too many claims had to be
+// given back.
+bool CageGenerator::ClaimNextCell(int cellInCage) {
   int failCount = 0;
-  while (failCount < kMostFailures) {
+  while (failCount < kMaxFailures) {
     const int next = *WalkToUnclaimed(kUnlimited);
     if (!(rotational_ && next == kCentreCell)) {
-      Claim(next, Cage);
+      AddToCurrentCage(next);
       const Regions left = unclaimed_.Without(next);
-      if (MayStand(next, kSide - 1 - k, left)) {
+      if (KeepsLayoutPossible(next, kSide - 1 - cellInCage, left)) {
         unclaimed_ = left;
         CurrentCell = next;
         return true;
       }
-      GiveBack(next);
+      TakeFromCurrentCage(next);
     }
     ++failCount;
   }
   return false;
 }
 
-bool CageGenerator::MayStand(int cell, int cellsToCover, const Regions& left) const {
+bool CageGenerator::KeepsLayoutPossible(int cell, int cellsToCover, const Regions& left) const {
   if (!OpenField(left, cellsToCover, rotational_ ? 2 * Cage - 1 : Cage, cell)) return false;
   if (!rotational_ || Cage != kRotationalCagesToGrow) return true;
-  if (kAboveAndBelowCentre.Contains(cell)) return (grown_ & kLeftAndRightOfCentre).Empty();
-  if (kLeftAndRightOfCentre.Contains(cell)) return (grown_ & kAboveAndBelowCentre).Empty();
+  if (kAboveAndBelowCentre.Contains(cell)) return (currentCage_ & kLeftAndRightOfCentre).Empty();
+  if (kLeftAndRightOfCentre.Contains(cell)) return (currentCage_ & kAboveAndBelowCentre).Empty();
   return true;
 }
 
+// After a conflict the other cells are still mirrored, and shown, before the attempt is abandoned.
 bool CageGenerator::MirrorCage() {
   CellSet mirrored;
   bool conflict = false;
   for (const int cell : GrowthList) {
     const int mirror = HalfTurnOf(cell);
-    if (state_.CageOfCell[mirror] != 0) {
+    if (cages_[mirror] != 0) {
       conflict = true;
       continue;
     }
-    Claim(mirror, kSide + 1 - Cage);
+    cages_[mirror] = static_cast<std::uint8_t>(kSide + 1 - Cage);
     mirrored = mirrored | CellSet::Of(mirror);
-    PaintProgress(mirror);
+    Tell(mirror);
   }
   if (conflict) return false;
   unclaimed_ = RegionsOf(unclaimed_.All() - mirrored);
@@ -141,75 +119,79 @@ bool CageGenerator::GrowCentreCage() {
   return true;
 }
 
-// The centre cage takes what is left: no look-ahead, no painting, and other cages count as
-// failures.
+// The centre cage takes what is left, without look-ahead; steps into other cages count as failures.
 bool CageGenerator::ClaimNextCentreCell() {
-  const std::optional<int> next = WalkToUnclaimed(kMostFailures);
+  const std::optional<int> next = WalkToUnclaimed(kMaxFailures);
   if (!next) return false;
   CurrentCell = *next;
-  Claim(*next, Cage);
+  AddToCurrentCage(*next);
+  Tell(*next);
   return true;
 }
 
-// Steps within the cage until one leads to an unclaimed cell; none when so many steps have led to
-// other cages. The processor cannot foresee what a step finds: so moving and counting are done
-// without branches, and the direction of the next step is drawn before it is needed.
-std::optional<int> CageGenerator::WalkToUnclaimed(int mostOthers) {
+// A random walk inside the current cage; returns the first unclaimed cell that it meets. A step off
+// the board does nothing; a step into another cage leaves the walker where it is and is counted;
+// nothing is returned after `maxForeignSteps` of those.
+//
+// What a step finds cannot be predicted, so moving and counting are arithmetic instead of branches,
+// and each direction is drawn one step early to hide the latency of the generator.
+std::optional<int> CageGenerator::WalkToUnclaimed(int maxForeignSteps) {
   int cell = CurrentCell;
-  for (int others = 0; others < mostOthers;) {
+  for (int foreignSteps = 0; foreignSteps < maxForeignSteps;) {
     const int next = StepFrom(cell);
-    if (state_.CageOfCell[next] == 0) {
+    if (cages_[next] == 0) {
       CurrentCell = cell;
       return next;
     }
-    cell ^= (cell ^ next) & own_[next];
-    others += 1 + own_[next];
+    cell ^= (cell ^ next) & currentCageMask_[next];
+    foreignSteps += 1 + currentCageMask_[next];
   }
   return std::nullopt;
 }
 
-// The cell that one step of the walk leads to, in a random direction.
+// The cell that one step in a random direction leads to.
 int CageGenerator::StepFrom(int cell) {
-  view_.PumpEvents();
+  progress_.Step();
   const int direction = std::exchange(nextDirection_, DrawDirection());
   return kNeighbours[cell][direction];
 }
 
-// A cage that touches no unclaimed cell could never claim one nor count a failure: the walk would
-// not end. Happens in rotational layouts, in pockets that cages and their mirrors have closed off.
+// A cage that touches no unclaimed cell could never claim one nor count a failure, and the walk
+// would never end. This happens in rotational layouts, in pockets that cages and their mirrors have
+// closed off.
 bool CageGenerator::IsEnclosed() const {
-  return (NeighboursOf(grown_) & unclaimed_.All()).Empty();
+  return (NeighboursOf(currentCage_) & unclaimed_.All()).Empty();
 }
 
 void CageGenerator::StartCage(int cage, int cell) {
   Cage = cage;
-  grown_ = {};
-  own_ = {};
+  currentCage_ = {};
+  currentCageMask_ = {};
   CurrentCell = cell;
-  Claim(cell, cage);
+  AddToCurrentCage(cell);
   unclaimed_ = unclaimed_.Without(cell);
+  Tell(cell);
 }
 
-void CageGenerator::Claim(int cell, int cage) {
-  state_.CageOfCell[cell] = static_cast<std::int16_t>(cage);
-  if (cage != Cage) return;
-  grown_ = grown_ | CellSet::Of(cell);
-  own_[cell] = -1;
+void CageGenerator::AddToCurrentCage(int cell) {
+  cages_[cell] = static_cast<std::uint8_t>(Cage);
+  currentCage_ = currentCage_ | CellSet::Of(cell);
+  currentCageMask_[cell] = -1;
 }
 
-void CageGenerator::GiveBack(int cell) {
-  state_.CageOfCell[cell] = 0;
-  grown_ = grown_ - CellSet::Of(cell);
-  own_[cell] = 0;
+void CageGenerator::TakeFromCurrentCage(int cell) {
+  cages_[cell] = 0;
+  currentCage_ = currentCage_ - CellSet::Of(cell);
+  currentCageMask_[cell] = 0;
 }
 
-void CageGenerator::PaintProgress(int cell) {
-  if (form_.Checked(CheckBox::CheckVisualize)) Paint(cell);
-}
-
-void CageGenerator::Paint(int cell) {
-  form_.SetCellOpaque(cell, true);
-  form_.SetCellBackground(cell, CageColourOf(state_, cell));
+std::optional<Layout> Saw(Symmetry symmetry, RandomSource& random, const AcceptLayout& accept,
+                          Progress& progress) {
+  CageGenerator generator(random, progress);
+  while (!progress.StopRequested()) {
+    if (const auto layout = generator.Attempt(symmetry); layout && accept(*layout)) return layout;
+  }
+  return std::nullopt;
 }
 
 }  // namespace tessel

@@ -2,68 +2,74 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <functional>
 #include <optional>
 
 #include "core/cell_set.h"
-#include "core/form.h"
-#include "core/game_state.h"
+#include "core/layout.h"
+#include "core/progress.h"
 #include "core/random_source.h"
 #include "layout/regions.h"
 
 namespace tessel {
 
+enum class Symmetry : std::uint8_t {
+  kNone,
+  kHalfTurn,  // cage c and cage 10 - c change places under a half turn, cage 5 with itself
+};
+
+// In layouts of half-turn symmetry, the cage around the centre cell; it grows last.
+inline constexpr int kCentreCage = 5;
+
 class CageGenerator {
  public:
-  // Says of the finished layout in CageOfCell and CageCells whether it can be kept.
-  using AcceptLayout = std::function<bool()>;
+  // Draws from `random`, which is seeded by the caller and shared by all attempts: the direction of
+  // the next step is always drawn in advance.
+  CageGenerator(RandomSource& random, Progress& progress);
 
-  CageGenerator(GameState& state, Form& form, View& view, RandomSource& random, Clock& clock,
-                AcceptLayout accept);
-
-  // On return CageOfCell and CageCells hold a complete accepted layout, every cell is painted in
-  // its cage's colour and the beep has sounded. Reads the box Rotational once an attempt and
-  // CheckVisualize at every claimed cell. Returns only when it has succeeded.
-  void BuildTesselPattern();
-  // The nine 3x3 boxes, painted; no beep.
-  void BuildRegularLayout();
+  // One attempt from an empty board; nothing when a cage could not be grown or mirrored. Tells
+  // `progress` of every step, and of every cell that stays claimed for the rest of the attempt.
+  std::optional<Layout> Attempt(Symmetry symmetry);
 
  private:
-  bool Attempt();
+  bool GrowAll();
   bool GrowCage();
-  bool ClaimNextCell(int k);
-  bool MayStand(int cell, int cellsToCover, const Regions& left) const;
+  bool ClaimNextCell(int cellInCage);
+  bool KeepsLayoutPossible(int cell, int cellsToCover, const Regions& left) const;
   bool MirrorCage();
   bool GrowCentreCage();
   bool ClaimNextCentreCell();
   bool IsEnclosed() const;
-  std::optional<int> WalkToUnclaimed(int mostOthers);
+  std::optional<int> WalkToUnclaimed(int maxForeignSteps);
   int StepFrom(int cell);
   int DrawDirection() { return DrawIndex(random_, 4); }
   void StartCage(int cage, int cell);
-  void Claim(int cell, int cage);
-  void GiveBack(int cell);
-  void PaintProgress(int cell);
-  void Paint(int cell);
+  void AddToCurrentCage(int cell);
+  void TakeFromCurrentCage(int cell);
+  void Tell(int cell) { progress_.CellClaimed(cell, cages_[cell]); }
 
-  GameState& state_;
-  Form& form_;
-  View& view_;
   RandomSource& random_;
-  Clock& clock_;
-  AcceptLayout accept_;
+  Progress& progress_;
+  int nextDirection_;
 
-  int nextDirection_ = 0;
-
-  // The attempt at work. Every step below is part of one; those that can fail return false when the
-  // attempt is to be abandoned.
+  // The attempt under way. Its steps return false when it has to be abandoned.
   bool rotational_ = false;
+  CageNumbers cages_{};                 // 0: in no cage yet
   int Cage = 0;                         // the cage being grown
   int CurrentCell = 0;                  // the walker, always on a cell of Cage
   std::array<int, kSide> GrowthList{};  // the cells of Cage in the order of their claiming
-  CellSet grown_;                       // the cells of Cage
-  PerCell<std::int8_t> own_{};          // -1 for these, 0 for the others: the walk's arithmetic
-  Regions unclaimed_;                   // of the cells in no cage, until the centre cage grows
+  CellSet currentCage_;                 // the cells of Cage
+  // The same as -1 for its cells and 0 for the others, for the arithmetic of the walk.
+  PerCell<std::int8_t> currentCageMask_{};
+  Regions unclaimed_;  // of the cells in no cage, until the centre cage grows
 };
+
+// Says whether a finished layout can be used.
+using AcceptLayout = std::function<bool(const Layout&)>;
+
+// Saws until `accept` is content; nothing when `progress` asked to stop.
+std::optional<Layout> Saw(Symmetry symmetry, RandomSource& random, const AcceptLayout& accept,
+                          Progress& progress = Unwatched());
 
 }  // namespace tessel

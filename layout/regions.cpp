@@ -1,6 +1,7 @@
 #include "layout/regions.h"
 
 #include <array>
+#include <cassert>
 
 namespace tessel {
 
@@ -25,8 +26,9 @@ constexpr Block BlockAround(CellSet cells, int cell) {
   return block;
 }
 
-// Whether there are cells beside the middle, and they hang together around it.
-constexpr bool HangTogether(Block block) {
+// Whether there are cells beside the middle that are connected to each other through its eight
+// neighbours. Taking the middle out cannot part a region then.
+constexpr bool LocallyConnected(Block block) {
   constexpr std::array sides{1, 5, 7, 3};    // all around
   constexpr std::array corners{2, 8, 6, 0};  // the one after each side
   const auto holds = [block](int bit) { return (block >> bit & 1) != 0; };
@@ -40,18 +42,20 @@ constexpr bool HangTogether(Block block) {
   return beside > 0 && parts <= 1;
 }
 
-constexpr auto kHangTogether = [] {
+constexpr auto kLocallyConnected = [] {
   std::array<bool, 512> table{};
-  for (Block block = 0; block < table.size(); ++block) table[block] = HangTogether(block);
+  for (Block block = 0; block < table.size(); ++block) table[block] = LocallyConnected(block);
   return table;
 }();
 
 }  // namespace
 
+// Floods the board only where the eight cells around the one taken out leave the question open.
 Regions Regions::Without(int cell) const {
+  assert(All().Contains(cell));
   const CellSet gone = CellSet::Of(cell);
   const CellSet left = All() - gone;
-  if (!kHangTogether[BlockAround(left, cell)]) return RegionsOf(left);
+  if (!kLocallyConnected[BlockAround(left, cell)]) return RegionsOf(left);
   return {first - gone, second - gone, others - gone};
 }
 

@@ -7,14 +7,15 @@ namespace tessel {
 
 struct Regions {
   CellSet first;   // one region; empty when there is no cell
-  CellSet second;  // another; empty when all cells hang together
+  CellSet second;  // another; empty when all cells are connected
   CellSet others;  // the cells of all others
 
   CellSet All() const { return first | second | others; }
-  // The regions after `cell`, one of theirs, is taken out.
+  // The regions that are left without `cell`, which must be in one of them.
   Regions Without(int cell) const;
 };
 
+// Floods the board; `first` holds the lowest-numbered cell.
 Regions RegionsOf(CellSet cells);
 
 }  // namespace tessel

@@ -1,35 +1,34 @@
 #include "search/conceal.h"
 
-#include <optional>
-
-#include "core/stage_time.h"
+#include <array>
 
 namespace tessel {
 
 namespace {
 
-// How cells are hidden: one at a time, or together with the cell opposite.
-struct Mode {
-  int weight;         // what a hidden or kept cell counts; a pair counts 2, the centre too
-  int mostConcealed;  // hiding ends here
-  int mostRefusals;   // so many refusals in a row and the cells are taken in ascending order
+struct Limits {
+  int countPerStep;  // what a hidden or kept cell counts; a pair counts 2, the centre cell too
+  int maxConcealed;  // hiding ends here
+  int maxRefusals;   // after this many in a row the cells are taken in ascending order
   int lastSequentialCell;
+
+  bool InPairs() const { return countPerStep == 2; }
 };
 // The limits differ on purpose: at most 57 single cells or 29 pairs are hidden, and the ascending
 // scan follows 61 refusals in a row of single cells but 41 of pairs.
-constexpr Mode kSingleMode{1, 57, 61, kCellCount - 1};
-constexpr Mode kPairMode{2, 58, 41, kCentreCell};
+constexpr Limits kSingles{1, 57, 61, kCellCount - 1};
+constexpr Limits kPairs{2, 58, 41, kCentreCell};
 
 // The bookkeeping of one run.
 class Concealment {
  public:
-  Concealment(GameState& state, RandomSource& random, const Mode& mode)
-      : state_(state), random_(random), mode_(mode), FullGrid(state.WorkGrid) {
+  Concealment(const Grid& solution, RandomSource& random, const Limits& limits)
+      : random_(random), limits_(limits), FullGrid(DigitsOf(solution)), givens_(FullGrid) {
     Tryable.fill(true);
   }
 
   bool Complete() const {
-    return ConcealedCount == mode_.mostConcealed || ConcealedCount + KeptCount >= kCellCount;
+    return ConcealedCount == limits_.maxConcealed || ConcealedCount + KeptCount >= kCellCount;
   }
 
   // The next cell to hide; none when the ascending scan is through.
@@ -41,17 +40,17 @@ class Concealment {
   }
 
   void Hide(int cell) {
-    ConcealedCount += mode_.weight;
+    ConcealedCount += limits_.countPerStep;
     ConcealedList[ConcealedCount] = static_cast<std::int16_t>(cell);
     Clear(cell);
   }
 
   void Refuse(int cell) {
     Tryable[cell] = false;
-    if (mode_.weight == 2) Tryable[HalfTurnOf(cell)] = false;
-    KeptCount += mode_.weight;
-    ConcealedCount -= mode_.weight;
-    if (++FailStreak >= mode_.mostRefusals && !SequentialMode) {
+    if (limits_.InPairs()) Tryable[HalfTurnOf(cell)] = false;
+    KeptCount += limits_.countPerStep;
+    ConcealedCount -= limits_.countPerStep;
+    if (++FailStreak >= limits_.maxRefusals && !SequentialMode) {
       SequentialMode = true;
       ScanPos = -1;
     }
@@ -61,32 +60,33 @@ class Concealment {
     if (!SequentialMode) FailStreak = 0;
   }
 
-  void RebuildWorkGrid() {
-    state_.WorkGrid = FullGrid;
-    for (int n = mode_.weight; n <= ConcealedCount; n += mode_.weight) Clear(ConcealedList[n]);
-  }
+  const CellDigits& Givens() const { return givens_; }
 
-  void RestoreWorkGrid() { state_.WorkGrid = FullGrid; }
+  void RebuildGivens() {
+    givens_ = FullGrid;
+    for (int n = limits_.countPerStep; n <= ConcealedCount; n += limits_.countPerStep)
+      Clear(ConcealedList[n]);
+  }
 
  private:
   std::optional<int> ChooseNext() {
     do {
-      if (++ScanPos > mode_.lastSequentialCell) return std::nullopt;
+      if (++ScanPos > limits_.lastSequentialCell) return std::nullopt;
     } while (!MayHide(ScanPos));
     return ScanPos;
   }
 
-  bool MayHide(int cell) const { return state_.WorkGrid[cell] > 0 && Tryable[cell]; }
+  bool MayHide(int cell) const { return givens_[cell] > 0 && Tryable[cell]; }
 
   void Clear(int cell) {
-    state_.WorkGrid[cell] = 0;
-    if (mode_.weight == 2) state_.WorkGrid[HalfTurnOf(cell)] = 0;
+    givens_[cell] = 0;
+    if (limits_.InPairs()) givens_[HalfTurnOf(cell)] = 0;
   }
 
-  GameState& state_;
   RandomSource& random_;
-  const Mode& mode_;
-  CellDigits FullGrid;
+  const Limits& limits_;
+  const CellDigits FullGrid;
+  CellDigits givens_;
   PerCell<bool> Tryable{};
   // Positions 1..58; pairs take every second position and stand there with the cell drawn.
   std::array<std::int16_t, 59> ConcealedList{};
@@ -99,49 +99,30 @@ class Concealment {
 
 }  // namespace
 
-bool Concealer::ConcealCells2ValidTessel() {
-  random_.Seed(clock_.Seed());
-  StartStopwatch(state_, clock_);
-  Concealment concealment(state_, random_,
-                          form_.Checked(CheckBox::ConcealRotational) ? kPairMode : kSingleMode);
-  while (!concealment.Complete() && !state_.StopRequested) {
+std::optional<Grid> Conceal(ExactCoverSearch& search, const Grid& solution, ConcealMode mode,
+                            RandomSource& random, Progress& progress) {
+  Concealment concealment(solution, random, mode == ConcealMode::kPairs ? kPairs : kSingles);
+  while (!concealment.Complete() && !progress.StopRequested()) {
     const std::optional<int> cell = concealment.Choose();
     if (!cell) break;
     concealment.Hide(*cell);
-    if (search_.UniqueSolution()) {
+    progress.HidingTried(concealment.Givens());
+    if (search.UniqueSolution(concealment.Givens(), progress)) {
       concealment.Accept();
     } else {
       concealment.Refuse(*cell);
     }
-    concealment.RebuildWorkGrid();
-    ShowDigits();
+    concealment.RebuildGivens();
+    progress.HidingDecided(concealment.Givens());
   }
-  const bool completed = !state_.StopRequested;
-  if (completed) {
-    Complete();
-  } else {
-    ClearDigits();
-  }
-  concealment.RestoreWorkGrid();
-  state_.StopRequested = false;
-  return completed;
+  if (progress.StopRequested()) return std::nullopt;
+  return GridOf(concealment.Givens());
 }
 
-void Concealer::Complete() {
-  ShowStageTime(state_, form_, "Concealed");
-  state_.Puzzle = state_.WorkGrid;
-  for (int cell = 0; cell < kCellCount; ++cell) {
-    form_.SetMarksColour(cell, CageColourOf(state_, cell));
-  }
-  view_.Beep();
-}
-
-void Concealer::ShowDigits() {
-  for (int cell = 0; cell < kCellCount; ++cell) form_.SetCellText(cell, state_.WorkGrid[cell]);
-}
-
-void Concealer::ClearDigits() {
-  for (int cell = 0; cell < kCellCount; ++cell) form_.SetCellText(cell, 0);
+std::optional<Grid> Conceal(const Layout& layout, const Grid& solution, ConcealMode mode,
+                            RandomSource& random, Progress& progress) {
+  ExactCoverSearch search(layout);
+  return Conceal(search, solution, mode, random, progress);
 }
 
 }  // namespace tessel

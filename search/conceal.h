@@ -1,36 +1,27 @@
-// Conceals cells of the complete solution while exactly one solution remains.
+// Conceals cells of a complete solution while exactly one solution remains.
 #pragma once
 
-#include <array>
+#include <cstdint>
+#include <optional>
 
-#include "core/form.h"
-#include "core/game_state.h"
+#include "core/progress.h"
 #include "core/random_source.h"
 #include "search/exact_cover_search.h"
 
 namespace tessel {
 
-class Concealer {
- public:
-  Concealer(GameState& state, Form& form, View& view, RandomSource& random, Clock& clock,
-            ExactCoverSearch& search)
-      : state_(state), form_(form), view_(view), random_(random), clock_(clock), search_(search) {}
-
-  // WorkGrid must hold a complete solution; it holds it again on return. True when concealing ran
-  // to its end and Puzzle holds the givens; false when StopRequested was set, which is cleared.
-  bool ConcealCells2ValidTessel();
-
- private:
-  void Complete();
-  void ShowDigits();
-  void ClearDigits();
-
-  GameState& state_;
-  Form& form_;
-  View& view_;
-  RandomSource& random_;
-  Clock& clock_;
-  ExactCoverSearch& search_;
+enum class ConcealMode : std::uint8_t {
+  kSingle,  // one cell at a time, 57 at most
+  kPairs,   // a cell together with the one opposite, 29 pairs at most
 };
+
+// The givens that are left of `solution`, a filling of the search's layout: digits, 0 for concealed
+// cells. They depend on the arguments and the numbers of `random` alone. Nothing when `progress`
+// asked to stop.
+std::optional<Grid> Conceal(ExactCoverSearch& search, const Grid& solution, ConcealMode mode,
+                            RandomSource& random, Progress& progress = Unwatched());
+// The same with a search of its own.
+std::optional<Grid> Conceal(const Layout& layout, const Grid& solution, ConcealMode mode,
+                            RandomSource& random, Progress& progress = Unwatched());
 
 }  // namespace tessel

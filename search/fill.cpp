@@ -2,69 +2,51 @@
 
 #include <limits>
 
-#include "core/stage_time.h"
-#include "search/progress_drawing.h"
-#include "search/try_out.h"
+#include "search/random_restarts.h"
 
 namespace tessel {
 
 namespace {
 
-// Draws every placement for which "Visualize progress" is ticked, until the first solution.
-class DrawnSearch final : public SearchDriver {
+// Tells of every placement that is watched, until the first solution.
+class WatchedSearch final : public SearchDriver {
  public:
-  DrawnSearch(GameState& state, Form& form, View& view, const ExactCoverSearch& search)
-      : state_(state), form_(form), view_(view), drawing_(state, form, search) {}
+  explicit WatchedSearch(Progress& progress) : progress_(progress) {}
 
-  bool Proceed() override {
-    view_.PumpEvents();
-    FollowPlacements(form_.Checked(CheckBox::CheckVisualize));
-    return !state_.StopRequested;
+  bool BeforeIteration() override {
+    progress_.Step();
+    ObservePlacements(progress_.WatchesPlacements());
+    return !progress_.StopRequested();
   }
   bool ContinueAfterSolution() override { return false; }
   void TrialPlaced(int pos, int cell) override {
-    drawing_.DLXUpdateGrid(pos, cell, UpdateMode::kTrial);
+    progress_.DigitPlaced({Placement::Kind::kTrial, cell, pos});
   }
   void SinglePlaced(int pos, int cell) override {
-    drawing_.DLXUpdateGrid(pos, cell, UpdateMode::kSingle);
+    progress_.DigitPlaced({Placement::Kind::kSingle, cell, pos});
   }
 
  private:
-  GameState& state_;
-  Form& form_;
-  View& view_;
-  ProgressDrawing drawing_;
+  Progress& progress_;
 };
 
 }  // namespace
 
-bool FillGenerator::GenerateTessel() {
-  random_.Seed(clock_.Seed());
-  StartStopwatch(state_, clock_);
-  if (!FindSolution()) {
-    state_.StopRequested = false;
-    return false;
+std::optional<Grid> Fill(ExactCoverSearch& search, RandomSource& random, Progress& progress) {
+  RandomRestarts restarts(search, random, progress);
+  const auto result = restarts.Run(std::numeric_limits<std::int64_t>::max());
+  if (result != RandomRestarts::Result::kFilled) return std::nullopt;
+  if (progress.WatchesPlacements()) {
+    search.StartEmpty(restarts.Order());
+    WatchedSearch driver(progress);
+    if (search.Run(driver) != SearchResult::kSolved) return std::nullopt;
   }
-  ShowStageTime(state_, form_, "Filled");
-  const SearchLevel& solution = search_.Top();
-  ProgressDrawing(state_, form_, search_)
-      .DLXUpdateGrid(-1, solution.Order.front(), UpdateMode::kFinished);
-  state_.WorkGrid = solution.Digit;
-  return true;
+  return GridOf(search.Top().Digit);
 }
 
-// The order that succeeds in a try-out is the fill's order; a visualised fill runs its search once
-// more, drawn.
-bool FillGenerator::FindSolution() {
-  TryOut tryOut(state_, view_, random_, search_);
-  if (tryOut.Run(std::numeric_limits<std::int64_t>::max()) != TryOut::End::kFilled) return false;
-  return !form_.Checked(CheckBox::CheckVisualize) || DrawSearch(tryOut.Order());
-}
-
-bool FillGenerator::DrawSearch(const PerCell<std::int16_t>& order) {
-  search_.StartEmpty(order);
-  DrawnSearch driver(state_, form_, view_, search_);
-  return search_.Run(driver) == SearchEnd::kSolved;
+std::optional<Grid> Fill(const Layout& layout, RandomSource& random, Progress& progress) {
+  ExactCoverSearch search(layout);
+  return Fill(search, random, progress);
 }
 
 }  // namespace tessel

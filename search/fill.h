@@ -1,34 +1,24 @@
-// Fills the layout with a random complete solution.
+// Fills a layout with a random complete solution.
 #pragma once
 
-#include "core/form.h"
-#include "core/game_state.h"
+#include <optional>
+
+#include "core/progress.h"
 #include "core/random_source.h"
 #include "search/exact_cover_search.h"
 
 namespace tessel {
 
-class FillGenerator {
- public:
-  FillGenerator(GameState& state, Form& form, View& view, RandomSource& random, Clock& clock,
-                ExactCoverSearch& search)
-      : state_(state), form_(form), view_(view), random_(random), clock_(clock), search_(search) {}
-
-  // True when a solution was found: it is drawn and copied into WorkGrid, and the caption tells the
-  // time. False when StopRequested was set, which is cleared, or the layout has no filling:
-  // WorkGrid and the caption are left as they stand.
-  bool GenerateTessel();
-
- private:
-  bool FindSolution();
-  bool DrawSearch(const PerCell<std::int16_t>& order);
-
-  GameState& state_;
-  Form& form_;
-  View& view_;
-  RandomSource& random_;
-  Clock& clock_;
-  ExactCoverSearch& search_;
-};
+// A solution of the search's layout, which stands in its top level too; it depends on the layout
+// and the numbers of `random` alone. Nothing when `progress` asked to stop or the layout proves to
+// have no filling; for most layouts without one that proof would take for ever.
+//
+// When `progress` watches placements after the solution is found, the search that has found it runs
+// once more for it to watch.
+std::optional<Grid> Fill(ExactCoverSearch& search, RandomSource& random,
+                         Progress& progress = Unwatched());
+// The same with a search of its own.
+std::optional<Grid> Fill(const Layout& layout, RandomSource& random,
+                         Progress& progress = Unwatched());
 
 }  // namespace tessel

@@ -1,5 +1,5 @@
-// What the passes over the board in 16-bit lanes have in common. The narrow types keep every lane
-// at 16 bits, so that compilers vectorise the loops.
+// What the passes over the board in 16-bit lanes have in common. Every intermediate result is cast
+// back to 16 bits: where one lane were wider, compilers would unpack all of them.
 #pragma once
 
 #include "search/search_level.h"
@@ -13,8 +13,8 @@
 #define TESSEL_WIDE_VECTORS
 #endif
 
-// Before a loop that reads and writes the same lanes, or lanes far apart: the compiler needn't
-// check.
+// Promises GCC that no iteration of the next loop writes a lane that another one reads, so that it
+// vectorises without an overlap test at run time.
 #if defined(__GNUC__) && !defined(__clang__)
 #define TESSEL_SAME_LANES _Pragma("GCC ivdep")
 #else
@@ -24,25 +24,26 @@
 namespace tessel {
 
 // All bits where the number is 0, none where it is not.
-constexpr std::int16_t LaneOfZero(std::int16_t number) {
+constexpr std::int16_t AllOnesIfZero(std::int16_t number) {
   return static_cast<std::int16_t>(-static_cast<int>(number == 0));
 }
 
 // All bits where the number is negative, none where it is not.
-constexpr std::int16_t LaneOfNegative(std::int16_t number) {
+constexpr std::int16_t AllOnesIfNegative(std::int16_t number) {
   return static_cast<std::int16_t>(number >> 15);
 }
 
-// What an unfilled cell with these candidates contributes to the outlook: its rank without the mark
-// when it has one candidate, with the mark when it has none, else 0.
-constexpr std::int16_t Urgency(Mask candidates, std::int16_t rank) {
+// The priority of one lane; a pass takes the maximum. No candidate (contradiction): the key, whose
+// bit 14 beats everything. One candidate (single): the key without bit 14, higher at earlier
+// positions. Otherwise, and for filled cells: 0.
+constexpr std::int16_t PriorityOf(Mask candidates, std::int16_t positionKey) {
   const auto less = static_cast<std::int16_t>(candidates - 1);
-  const std::int16_t atMostOne = LaneOfZero(static_cast<std::int16_t>(candidates & less));
+  const std::int16_t atMostOne = AllOnesIfZero(static_cast<std::int16_t>(candidates & less));
   const auto marked = static_cast<std::int16_t>(less | ~kUnfilledMark);
-  return static_cast<std::int16_t>(atMostOne & rank & marked);
+  return static_cast<std::int16_t>(atMostOne & positionKey & marked);
 }
-static_assert(Urgency(0b100, RankAt(80, 7)) == (RankAt(80, 7) & ~kUnfilledMark));
-static_assert(Urgency(0, RankAt(80, 7)) == RankAt(80, 7));
-static_assert(Urgency(0b101, RankAt(0, 7)) == 0);
+static_assert(PriorityOf(0b100, PositionKeyAt(80, 7)) == (PositionKeyAt(80, 7) & ~kUnfilledMark));
+static_assert(PriorityOf(0, PositionKeyAt(80, 7)) == PositionKeyAt(80, 7));
+static_assert(PriorityOf(0b101, PositionKeyAt(0, 7)) == 0);
 
 }  // namespace tessel

@@ -6,17 +6,19 @@ namespace tessel {
 
 namespace {
 
-// For each digit, the unfilled cells of which it is a candidate. A round of singles takes few
-// steps, because a set holds the whole board.
+// For each digit, the unfilled cells of which it is a candidate. All singles of the board are
+// placed in one round of a few set operations for each digit.
 class DigitSets {
  public:
-  explicit DigitSets(const PerCell<CellSet>& houses) : houses_(houses) { sets_.fill(kAllCells); }
+  explicit DigitSets(const PerCell<CellSet>& peersAndSelf) : peersAndSelf_(peersAndSelf) {
+    sets_.fill(kAllCells);
+  }
 
   // False when the digit is no candidate of the cell. The cell stays in the sets of other digits.
   bool Place(int cell, int digit) {
     CellSet& set = sets_[digit - 1];
     const bool isCandidate = set.Contains(cell);
-    set = set - houses_[cell];
+    set = set - peersAndSelf_[cell];
     return isCandidate;
   }
   // False when the digit is a candidate of two of the cells that share a house.
@@ -25,7 +27,7 @@ class DigitSets {
     ForEach(cells & sets_[digit - 1], [&](int cell) { all &= Place(cell, digit); });
     return all;
   }
-  void Leave(CellSet cells) {
+  void RemoveCells(CellSet cells) {
     for (CellSet& set : sets_) set = set - cells;
   }
 
@@ -43,31 +45,32 @@ class DigitSets {
   }
 
  private:
-  const PerCell<CellSet>& houses_;
+  const PerCell<CellSet>& peersAndSelf_;
   std::array<CellSet, kSide> sets_{};
 };
 
 }  // namespace
 
-SinglesEnd FollowNakedSingles(const CellDigits& givens, const PerCell<CellSet>& houses) {
-  DigitSets candidates(houses);
+SinglesResult PropagateNakedSingles(const CellDigits& givens,
+                                    const PerCell<CellSet>& peersAndSelf) {
+  DigitSets candidates(peersAndSelf);
   CellSet unfilled;
   for (int cell = 0; cell < kCellCount; ++cell) {
     const int given = givens[cell];
     if (given <= 0) {
       unfilled = unfilled | CellSet::Of(cell);
     } else if (given > kSide || !candidates.Place(cell, given)) {
-      return SinglesEnd::kContradiction;
+      return SinglesResult::kContradiction;
     }
   }
-  candidates.Leave(kAllCells - unfilled);
+  candidates.RemoveCells(kAllCells - unfilled);
   while (true) {
     const auto [some, several] = candidates.Count();
-    if (some != unfilled) return SinglesEnd::kContradiction;
+    if (some != unfilled) return SinglesResult::kContradiction;
     const CellSet singles = some - several;
-    if (singles.Empty()) return unfilled.Empty() ? SinglesEnd::kSolved : SinglesEnd::kOpen;
+    if (singles.Empty()) return unfilled.Empty() ? SinglesResult::kSolved : SinglesResult::kOpen;
     for (int digit = 1; digit <= kSide; ++digit) {
-      if (!candidates.PlaceAll(singles, digit)) return SinglesEnd::kContradiction;
+      if (!candidates.PlaceAll(singles, digit)) return SinglesResult::kContradiction;
     }
     unfilled = unfilled - singles;
   }

@@ -1,4 +1,5 @@
 // The loop of the search and its steps: choosing a cell, placing, undoing.
+#include <cassert>
 #include <cstring>
 
 #include "search/exact_cover_search.h"
@@ -7,38 +8,35 @@ namespace tessel {
 
 namespace {
 
-constexpr std::int16_t kYes = -1;
-constexpr std::int16_t kNo = 0;
-
 // Swaps the cells at positions a and b. The cell that comes to b is about to be filled and needs no
-// rank.
-void Exchange(SearchLevel& level, int a, int b) {
+// key.
+void SwapPositions(SearchLevel& level, int a, int b) {
   const std::int16_t cell = level.Order[b];
   level.Order[b] = level.Order[a];
   level.Order[a] = cell;
-  level.Rank[cell] = RankAt(a, cell);
+  level.PositionKey[cell] = PositionKeyAt(a, cell);
 }
 
 }  // namespace
 
-SearchEnd ExactCoverSearch::Run(SearchDriver& driver) {
+SearchResult ExactCoverSearch::Run(SearchDriver& driver) {
   while (true) {
     ++iterations_;
     // Step 1. Leave an exhausted level, and the singles beneath it, for the older trial level.
     if (Pos() > levelStart_[Depth]) {
-      if (Depth == 0) return SearchEnd::kExhausted;
+      if (Depth == 0) return SearchResult::kExhausted;
       Depth = static_cast<std::int16_t>(Depth - 2);
       ++Pos();
       continue;
     }
     // Step 2. Every cell is filled.
     if (Pos() == -1) {
-      if (!driver.ContinueAfterSolution()) return SearchEnd::kSolved;
+      if (!driver.ContinueAfterSolution()) return SearchResult::kSolved;
       Pos() = 0;
       continue;
     }
     // Step 3. Let the driver look around.
-    if (!driver.Proceed()) return SearchEnd::kStopped;
+    if (!driver.BeforeIteration()) return SearchResult::kStopped;
     Step(driver);
   }
 }
@@ -48,18 +46,18 @@ void ExactCoverSearch::Step(SearchDriver& driver) {
   const SearchLevel& level = Levels[Depth];
   const bool revisit = level.Digit[level.Order[Pos()]] != 0;
   if (!revisit) ChooseCell();
-  const std::optional<Outlook> outlook = revisit ? TryNextDigit() : TryFirstDigit();
-  if (!outlook) {
+  const std::optional<BoardStatus> status = revisit ? TryNextDigit() : TryFirstDigit();
+  if (!status) {
     ++Pos();
     return;
   }
-  if (driver.FollowsPlacements()) driver.TrialPlaced(Pos(), level.Order[Pos()]);
+  if (driver.ObservesPlacements()) driver.TrialPlaced(Pos(), level.Order[Pos()]);
   --Pos();
-  // Step 9. A dead end sends the search back to the cell just placed.
-  if (outlook->DeadEnd()) {
+  // Step 9. A contradiction sends the search back to the cell just placed.
+  if (status->Contradiction()) {
     ++Pos();
-  } else if (outlook->Single()) {
-    PropagateSingles(driver, *outlook);
+  } else if (status->Single()) {
+    PropagateSingles(driver, *status);
   }
 }
 
@@ -68,49 +66,49 @@ void ExactCoverSearch::Step(SearchDriver& driver) {
 void ExactCoverSearch::ChooseCell() {
   SearchLevel& level = Levels[Depth];
   const int pos = Pos();
-  int fewest = state_.BitCount[level.Candidates[level.Order[pos]]];
-  // Two are the fewest there are: singles are placed, dead ends are left.
+  int fewest = CandidateCount(level.Candidates[level.Order[pos]]);
+  // Two are the fewest there are: singles have been placed and contradictions left.
   for (int i = 0; i < pos && fewest > 2; ++i) {
-    const int count = state_.BitCount[level.Candidates[level.Order[i]]];
+    const int count = CandidateCount(level.Candidates[level.Order[i]]);
     if (count >= fewest) continue;
     fewest = count;
-    Exchange(level, i, pos);
+    SwapPositions(level, i, pos);
   }
 }
 
 // Steps 6 and 7.
-Outlook ExactCoverSearch::TryFirstDigit() {
+BoardStatus ExactCoverSearch::TryFirstDigit() {
   SearchLevel& level = Levels[Depth];
   const int cell = level.Order[Pos()];
-  if (state_.BitCount[level.Candidates[cell]] == 1) level.LastChoice[cell] = kYes;
+  if (CandidateCount(level.Candidates[cell]) == 1) level.LastChoice[cell] = kTrue16;
   return PlaceTrial(cell, LowestDigitOf(level.Candidates[cell]));
 }
 
-// Step 8. None when the cell's digits are used up; it is empty again then, unless its level is
-// dropped next.
-std::optional<Outlook> ExactCoverSearch::TryNextDigit() {
+// Step 8. Nothing when the digits of the cell are used up; it is empty again then, unless its level
+// is dropped next.
+std::optional<BoardStatus> ExactCoverSearch::TryNextDigit() {
   SearchLevel& level = Levels[Depth];
   const int cell = level.Order[Pos()];
-  if (level.LastChoice[cell] == kYes) {
+  if (level.LastChoice[cell] == kTrue16) {
     // Nobody sees what is left in a level that is dropped next.
     if (Pos() == levelStart_[Depth] && Depth > 0) return std::nullopt;
     DLXUndo();
-    level.LastChoice[cell] = kNo;
+    level.LastChoice[cell] = kFalse16;
     return std::nullopt;
   }
   const int tried = level.Digit[cell];
   const auto higher = static_cast<Mask>(level.Candidates[cell] >> tried);
-  level.LastChoice[cell] = (higher & (higher - 1)) != 0 ? kNo : kYes;
+  level.LastChoice[cell] = (higher & (higher - 1)) != 0 ? kFalse16 : kTrue16;
   return ReplaceTrial(cell, tried + LowestDigitOf(higher));
 }
 
 // Step 10. There is a single to be placed. A contradiction drops the singles and goes back to the
 // cell placed last.
-void ExactCoverSearch::PropagateSingles(SearchDriver& driver, Outlook outlook) {
+void ExactCoverSearch::PropagateSingles(SearchDriver& driver, BoardStatus status) {
   const std::int16_t depth = Depth;
-  outlook = driver.FollowsPlacements() ? PlaceSinglesOneByOne(driver, outlook)
-                                       : PlaceSinglesAtOnce(outlook);
-  if (outlook.DeadEnd()) {
+  status = driver.ObservesPlacements() ? PlaceSinglesOneByOne(driver, status)
+                                       : PlaceSinglesAtOnce(status);
+  if (status.Contradiction()) {
     Depth = depth;
     ++Pos();
     return;
@@ -119,33 +117,32 @@ void ExactCoverSearch::PropagateSingles(SearchDriver& driver, Outlook outlook) {
   levelStart_[Depth] = Pos();
 }
 
-Outlook ExactCoverSearch::PlaceSinglesOneByOne(SearchDriver& driver, Outlook outlook) {
+BoardStatus ExactCoverSearch::PlaceSinglesOneByOne(SearchDriver& driver, BoardStatus status) {
   OpenLevel();
-  while (outlook.Single()) {
-    outlook = PlaceSingles(Top(), lanes_, outlook, Pos(), 1, run_);
-    TakeSingles();
+  while (status.Single()) {
+    status = kernels::PropagateSingles(Top(), tables_, status, Pos(), 1, scratch_);
+    CommitSingles();
     driver.SinglePlaced(Pos(), Top().Order[Pos() + 1]);
   }
-  return outlook;
+  return status;
 }
 
-// Opens no level for singles that come to a dead end.
-Outlook ExactCoverSearch::PlaceSinglesAtOnce(Outlook outlook) {
-  outlook = PlaceSingles(Top(), lanes_, outlook, Pos(), kCellCount, run_);
-  if (outlook.DeadEnd()) return outlook;
+// Opens no level for singles that lead to a contradiction.
+BoardStatus ExactCoverSearch::PlaceSinglesAtOnce(BoardStatus status) {
+  status = kernels::PropagateSingles(Top(), tables_, status, Pos(), kCellCount, scratch_);
+  if (status.Contradiction()) return status;
   OpenLevel();
-  TakeSingles();
-  return outlook;
+  CommitSingles();
+  return status;
 }
 
-// The singles of the run take their places in the top level.
-void ExactCoverSearch::TakeSingles() {
-  WriteSingles(run_, Pos(), Levels[Depth]);
-  Pos() = static_cast<std::int16_t>(Pos() - run_.count);
+void ExactCoverSearch::CommitSingles() {
+  kernels::CommitSingles(scratch_, Pos(), Levels[Depth]);
+  Pos() = static_cast<std::int16_t>(Pos() - scratch_.count);
 }
 
-// The new level carries on the log of the level below it, so that the log is one stack along the
-// current path.
+// The new level carries on the undo log of the level below it, so that the log is one stack along
+// the current path.
 void ExactCoverSearch::OpenLevel() {
   ++Depth;
   const auto size = static_cast<std::size_t>(Depth) + 1;
@@ -158,31 +155,34 @@ void ExactCoverSearch::OpenLevel() {
   levelPos_[Depth] = levelPos_[Depth - 1];
 }
 
-Outlook ExactCoverSearch::PlaceTrial(int cell, int digit) {
+BoardStatus ExactCoverSearch::PlaceTrial(int cell, int digit) {
   SearchLevel& level = Levels[Depth];
-  const int u = ++level.UndoCount;
-  level.UndoCell[u] = static_cast<std::int16_t>(cell);
-  level.UndoDigit[u] = static_cast<std::int16_t>(digit);
+  const int entry = ++level.UndoCount;
+  level.UndoCell[entry] = static_cast<std::int16_t>(cell);
+  level.UndoDigit[entry] = static_cast<std::int16_t>(digit);
   level.Digit[cell] = static_cast<std::int16_t>(digit);
-  return TakeForTrial(level, lanes_, cell, BitOf(digit), u);
+  return kernels::PlaceTrial(level, tables_, cell, BitOf(digit), entry);
 }
 
-// DLXUndo and PlaceTrial in one: the newest entry of the log is the cell's.
-Outlook ExactCoverSearch::ReplaceTrial(int cell, int digit) {
+// DLXUndo and PlaceTrial in one; the newest undo entry must be the one of the cell.
+BoardStatus ExactCoverSearch::ReplaceTrial(int cell, int digit) {
   SearchLevel& level = Levels[Depth];
-  const int u = level.UndoCount;
-  const Mask before = BitOf(level.UndoDigit[u]);
-  level.UndoDigit[u] = static_cast<std::int16_t>(digit);
+  const int entry = level.UndoCount;
+  assert(level.UndoCell[entry] == cell);
+  const Mask oldBit = BitOf(level.UndoDigit[entry]);
+  level.UndoDigit[entry] = static_cast<std::int16_t>(digit);
   level.Digit[cell] = static_cast<std::int16_t>(digit);
-  return TakeForNextTrial(level, lanes_, cell, before, BitOf(digit), u);
+  return kernels::ReplaceTrial(level, tables_, cell, oldBit, BitOf(digit), entry);
 }
 
 void ExactCoverSearch::DLXUndo() {
   SearchLevel& level = Levels[Depth];
-  const int u = level.UndoCount;
-  const int cell = level.UndoCell[u];
+  const int entry = level.UndoCount;
+  assert(entry > 0);
+  const int cell = level.UndoCell[entry];
   level.Digit[cell] = 0;
-  GiveBack(level, lanes_, cell, RankAt(Pos(), cell), BitOf(level.UndoDigit[u]), u);
+  kernels::UndoTrial(level, tables_, cell, PositionKeyAt(Pos(), cell),
+                     BitOf(level.UndoDigit[entry]), entry);
   --level.UndoCount;
 }
 

@@ -1,14 +1,15 @@
 // Saw, Fill and Conceal: the stages and who may run when.
-#include "core/stage_time.h"
 #include "core/texts.h"
-#include "layout/cage_generator.h"
-#include "search/conceal.h"
-#include "search/fill.h"
-#include "search/try_out.h"
+#include "search/random_restarts.h"
+#include "shell/concealing.h"
+#include "shell/filling.h"
 #include "shell/puzzle_file.h"
 #include "shell/puzzle_saver.h"
+#include "shell/sawing.h"
 #include "shell/stage.h"
+#include "shell/stage_time.h"
 #include "shell/tessel_main.h"
+#include "shell/window_progress.h"
 
 namespace tessel {
 
@@ -38,14 +39,20 @@ void Tessel_Main::RunSaw() {
     form_.SetMarksColour(cell, kBlack);
   }
   StartStopwatch(state_, clock_);
-  CageGenerator generator(state_, form_, view_, random_, clock_,
-                          [this] { return AdmitsFilling(state_, view_, search_); });
+  Sawing sawing(state_, form_, view_, random_, clock_,
+                [this](const Layout& layout) { return CanBeFilled(layout); });
   if (form_.Checked(CheckBox::MakeRegular)) {
-    generator.BuildRegularLayout();
+    sawing.BuildRegularLayout();
   } else {
-    generator.BuildTesselPattern();
+    sawing.BuildTesselPattern();
   }
   ShowStageTime(state_, form_, "Sawed");
+}
+
+bool Tessel_Main::CanBeFilled(const Layout& layout) {
+  search_.Use(layout);
+  WindowProgress progress(state_, view_);
+  return FindsFillingWithinBudget(search_, progress);
 }
 
 // A second click, on "Stop", comes in while the first one's handler is still at work and leaves the
@@ -64,7 +71,7 @@ void Tessel_Main::CommandGo_Click() {
 }
 
 bool Tessel_Main::RunFill() {
-  return FillGenerator(state_, form_, view_, random_, clock_, search_).GenerateTessel();
+  return Filling(state_, form_, view_, random_, clock_, search_).GenerateTessel();
 }
 
 void Tessel_Main::CommandConceal_Click() {
@@ -82,7 +89,7 @@ void Tessel_Main::CommandConceal_Click() {
 }
 
 bool Tessel_Main::RunConceal() {
-  return Concealer(state_, form_, view_, random_, clock_, search_).ConcealCells2ValidTessel();
+  return Concealing(state_, form_, view_, random_, clock_, search_).ConcealCells2ValidTessel();
 }
 
 // A puzzle that cannot be saved can be solved all the same; the foot of the window tells.

@@ -18,8 +18,7 @@ Tessel_Main::Tessel_Main(View& view, SoundPlayer& player, Clock& clock, RandomSo
       programFolder_(std::move(programFolder)),
       form_(view),
       sounds_(state_, player),
-      solving_(state_, form_, sounds_),
-      search_(state_, view) {}
+      solving_(state_, form_, sounds_) {}
 
 void Tessel_Main::Form_Load() {
   view_.Show();

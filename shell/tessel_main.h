@@ -57,6 +57,7 @@ class Tessel_Main {
   void CommandGo_Click();
   void CommandConceal_Click();
   void RunSaw();
+  bool CanBeFilled(const Layout& layout);
   bool RunFill();     // whether it completed
   bool RunConceal();  // likewise
   void SaveTessel();
@@ -80,7 +81,7 @@ class Tessel_Main {
   Form form_;
   Sounds sounds_;
   SolvingMode solving_;
-  ExactCoverSearch search_;
+  ExactCoverSearch search_{Layout::Regular()};
   bool asking_ = false;  // a question is open
 };
 

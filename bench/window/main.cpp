@@ -51,10 +51,9 @@ double EngineSeconds(const std::filesystem::path& folder, std::uint64_t seed) {
   file.seekg(-static_cast<std::streamoff>(sizeof record), std::ios::end);
   file.read(reinterpret_cast<char*>(&record), sizeof record);
   Engine engine;
-  std::ranges::copy(record.CageMap, engine.state.CageOfCell.begin());
-  RebuildCageCells(engine.state);
-  std::ranges::copy(record.Solution, engine.state.WorkGrid.begin());
-  return WallSecondsOf([&] { engine.Conceal(ConcealKind::kSingle, seed); });
+  engine.Use(Layout::FromCages(record.CageMap).value());
+  engine.solution = record.Solution;
+  return WallSecondsOf([&] { engine.ConcealSolution(ConcealMode::kSingle, seed); });
 }
 
 void PrintConceals(OutsideWindow& window, const std::filesystem::path& folder, int puzzles) {

@@ -15,6 +15,7 @@ namespace {
 
 using testing::Each;
 using testing::ElementsAre;
+using testing::ElementsAreArray;
 
 TEST(Cell, RowsAndColumnsCountFromTheTopLeft) {
   EXPECT_EQ(RowOf(0), 0);
@@ -116,19 +117,22 @@ TEST(CellName, NoTwoCellsShareOneAndNoneIsInRowI) {
   EXPECT_EQ(ColumnName(8), "9");
 }
 
-TEST(RebuildCageCells, ListsTheCellsOfEachCageInAscendingOrder) {
+TEST(SetLayout, ListsTheCellsOfEachCageInAscendingOrder) {
   const GameState state = StateWithLayout(kIrregularLayout);
   EXPECT_THAT(state.CageCells[0], ElementsAre(0, 1, 9, 10, 11, 18, 19, 20, 21));
   EXPECT_THAT(state.CageCells[6], ElementsAre(45, 54, 56, 63, 64, 65, 72, 73, 74));
   EXPECT_THAT(state.CageCells[8], ElementsAre(59, 60, 61, 62, 69, 70, 71, 79, 80));
 }
 
-TEST(RebuildCageCells, ReplacesTheLayoutBefore) {
+TEST(SetLayout, ReplacesTheLayoutBefore) {
   GameState state = StateWithLayout(kIrregularLayout);
+  CageNumbers cages{};
   for (int cell = 0; cell < kCellCount; ++cell) {
-    state.CageOfCell[cell] = static_cast<std::int16_t>(9 - RowOf(cell));
+    cages[cell] = static_cast<std::uint8_t>(9 - RowOf(cell));
   }
-  RebuildCageCells(state);
+  SetLayout(state, Layout::FromCages(cages).value());
+  EXPECT_THAT(state.CageOfCell, ElementsAreArray(cages));
+  EXPECT_EQ(LayoutOf(state).Cages(), cages);
   EXPECT_THAT(state.CageCells[0], ElementsAre(72, 73, 74, 75, 76, 77, 78, 79, 80));
   EXPECT_THAT(state.CageCells[8], ElementsAre(0, 1, 2, 3, 4, 5, 6, 7, 8));
 }

@@ -12,14 +12,6 @@ using testing::Contains;
 using testing::ElementsAre;
 using Fault = LayoutError::Fault;
 
-CageNumbers CagesOf(std::string_view layout) {
-  CageNumbers cages{};
-  for (int cell = 0; cell < kCellCount; ++cell) {
-    cages[cell] = static_cast<std::uint8_t>(layout[cell] - '0');
-  }
-  return cages;
-}
-
 LayoutError ErrorOf(const CageNumbers& cages) {
   const auto layout = Layout::FromCages(cages);
   EXPECT_FALSE(layout);

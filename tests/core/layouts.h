@@ -1,6 +1,7 @@
 // Cage layouts for the tests of the board model.
 #pragma once
 
+#include <algorithm>
 #include <string_view>
 
 #include "core/game_state.h"
@@ -19,14 +20,27 @@ inline constexpr std::string_view kIrregularLayout =
     "777888999"
     "777888899";
 
+inline CageNumbers CagesOf(std::string_view layout) {
+  CageNumbers cages{};
+  std::ranges::transform(layout, cages.begin(),
+                         [](char cage) { return static_cast<std::uint8_t>(cage - '0'); });
+  return cages;
+}
+
+// The layout of 81 cage numbers of any type; cages may lie in several parts.
+template <typename Numbers>
+Layout LayoutOfCages(const Numbers& numbers) {
+  CageNumbers cages{};
+  std::ranges::transform(numbers, cages.begin(),
+                         [](auto cage) { return static_cast<std::uint8_t>(cage); });
+  return Layout::FromCages(cages, Layout::Shape::kAny).value();
+}
+
 // A started state with the layout's cages.
 inline GameState StateWithLayout(std::string_view layout) {
   GameState state;
   FillTables(state);
-  for (int cell = 0; cell < kCellCount; ++cell) {
-    state.CageOfCell[cell] = static_cast<std::int16_t>(layout[cell] - '0');
-  }
-  RebuildCageCells(state);
+  SetLayout(state, Layout::FromCages(CagesOf(layout)).value());
   return state;
 }
 

@@ -6,7 +6,7 @@
 #include <limits>
 #include <locale>
 
-#include "core/stage_time.h"
+#include "shell/stage_time.h"
 #include "tests/fakes/fake_clock.h"
 #include "tests/fakes/recording_view.h"
 

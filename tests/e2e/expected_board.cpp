@@ -1,5 +1,7 @@
 #include "tests/e2e/expected_board.h"
 
+#include "tests/core/layouts.h"
+
 namespace tessel {
 namespace {
 
@@ -22,8 +24,8 @@ ExpectedBoard::ExpectedBoard(const PuzzleRecord& puzzle, bool solving, const Dig
   if (redCaptions) form_.HighlightCell(*redCaptions);
   form_.ShowSolveButtons(solving);
   state_.SavedPuzzle = puzzle;
+  SetLayout(state_, LayoutOfCages(puzzle.CageMap));
   for (int cell = 0; cell < kCellCount; ++cell) {
-    state_.CageOfCell[cell] = puzzle.CageMap[cell];
     form_.SetCellOpaque(cell, true);
     form_.SetCellBackground(cell, kCageColours[puzzle.CageMap[cell] - 1]);
     form_.SetCellText(cell, digitOf(cell));
@@ -32,7 +34,6 @@ ExpectedBoard::ExpectedBoard(const PuzzleRecord& puzzle, bool solving, const Dig
       form_.SetMarkVisible(cell, digit, showsMark(cell, digit));
     }
   }
-  RebuildCageCells(state_);
 }
 
 ExpectedBoard ExpectedBoard::Empty() {

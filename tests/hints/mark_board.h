@@ -35,11 +35,7 @@ inline CellList InColumn(int column, Digits rows) {
 struct MarkBoard {
   MarkBoard() {
     FillTables(state);
-    for (int cell = 0; cell < kCellCount; ++cell) {
-      state.CageOfCell[cell] =
-          static_cast<std::int16_t>(3 * (RowOf(cell) / 3) + ColumnOf(cell) / 3 + 1);
-    }
-    RebuildCageCells(state);
+    SetLayout(state, Layout::Regular());
     MakeStale(state);
   }
 

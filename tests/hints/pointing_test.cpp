@@ -29,9 +29,9 @@ TEST_F(PointingPair, EveryCellOfTheCageMustBeSeen) {
 
 TEST_F(PointingPair, LinesMayCrossAtTheTargetInIrregularCages) {
   // Cage 1 reaches around cell B2, which belongs to cage 2: its cells see B2 by row and by column.
-  state.CageOfCell[CellAt(1, 1)] = 2;
-  state.CageOfCell[CellAt(0, 3)] = 1;
-  RebuildCageCells(state);
+  CageNumbers cages = Layout::Regular().Cages();
+  std::swap(cages[CellAt(1, 1)], cages[CellAt(0, 3)]);
+  SetLayout(state, Layout::FromCages(cages, Layout::Shape::kAny).value());
   Mark({CellAt(1, 0), CellAt(0, 1)}, {7});
   Mark({CellAt(1, 1), CellAt(1, 4), CellAt(4, 1), CellAt(4, 4)}, {7});
   EXPECT_TRUE(techniques.PointingPair());

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/core/layouts.h"
+
 namespace tessel {
 
 SolvingProgram::SolvingProgram() {
@@ -13,8 +15,7 @@ SolvingProgram::SolvingProgram() {
 
 void SolvingProgram::Play(const PuzzleRecord& puzzle) {
   state().SavedPuzzle = puzzle;
-  for (int cell = 0; cell < kCellCount; ++cell) state().CageOfCell[cell] = puzzle.CageMap[cell];
-  RebuildCageCells(state());
+  SetLayout(state(), LayoutOfCages(puzzle.CageMap));
   main.Click(Button::CommandRestart);
   player.played.clear();
 }

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "core/random_source.h"
-#include "layout/cage_generator.h"
+#include "shell/sawing.h"
 #include "tests/fakes/fake_clock.h"
 #include "tests/fakes/recording_view.h"
 
@@ -40,7 +40,7 @@ class ScriptedWalk final : public RandomSource {
 
 struct GeneratorRig {
   explicit GeneratorRig(RandomSource& random, std::uint64_t seed = 1)
-      : clock(seed), generator(state, form, view, random, clock, [this] {
+      : clock(seed), generator(state, form, view, random, clock, [this](const Layout&) {
           ++judged;
           return !accept || accept();
         }) {
@@ -53,7 +53,7 @@ struct GeneratorRig {
   Form form{view};
   std::function<bool()> accept;
   int judged = 0;  // layouts offered to `accept`
-  CageGenerator generator;
+  Sawing generator;
 };
 
 }  // namespace tessel

@@ -19,7 +19,7 @@ int EmptyCells(const CellDigits& grid) {
   return static_cast<int>(std::count(grid.begin(), grid.end(), 0));
 }
 
-struct Concealing : testing::Test {
+struct ConcealingTest : testing::Test {
   void Prepare(const oracle::Layout& layout, std::uint64_t seed) {
     rig.Use(layout);
     rig.state.WorkGrid = solution = oracle::AnySolution(layout, seed).value();
@@ -35,7 +35,7 @@ struct Concealing : testing::Test {
   CellDigits solution{};
 };
 
-TEST_F(Concealing, HidesAtMost57CellsSingly) {
+TEST_F(ConcealingTest, HidesAtMost57CellsSingly) {
   int moreCouldBeHidden = 0;
   for (std::uint64_t seed = 0; seed < 8; ++seed) {
     PrepareRandom(seed);
@@ -52,7 +52,7 @@ TEST_F(Concealing, HidesAtMost57CellsSingly) {
   EXPECT_GT(moreCouldBeHidden, 0);
 }
 
-TEST_F(Concealing, HidesAtMost58CellsInPairs) {
+TEST_F(ConcealingTest, HidesAtMost58CellsInPairs) {
   InPairs();
   PrepareRandom(0);
   ASSERT_TRUE(Conceal());
@@ -63,7 +63,7 @@ TEST_F(Concealing, HidesAtMost58CellsInPairs) {
 }
 
 // Deliberate: the centre is its own partner and counts 2, so a pair fewer is hidden.
-TEST_F(Concealing, CentreCellCountsAsAPair) {
+TEST_F(ConcealingTest, CentreCellCountsAsAPair) {
   InPairs();
   PrepareRandom(1);
   ASSERT_TRUE(Conceal());
@@ -71,7 +71,7 @@ TEST_F(Concealing, CentreCellCountsAsAPair) {
   EXPECT_EQ(EmptyCells(rig.state.Puzzle), 57);
 }
 
-TEST_F(Concealing, EndShowsTimeAndPuzzleAndBeeps) {
+TEST_F(ConcealingTest, EndShowsTimeAndPuzzleAndBeeps) {
   PrepareRandom(3);
   ASSERT_TRUE(Conceal());
   EXPECT_EQ(rig.form.Caption(), "Tessel Sudoku - Concealed in 1.23 ms");
@@ -86,7 +86,7 @@ TEST_F(Concealing, EndShowsTimeAndPuzzleAndBeeps) {
   }
 }
 
-TEST_F(Concealing, StopClearsTheDigitsAndLeavesThePuzzleAlone) {
+TEST_F(ConcealingTest, StopClearsTheDigitsAndLeavesThePuzzleAlone) {
   PrepareRandom(3);
   rig.state.Puzzle.fill(6);
   const std::string caption = rig.form.Caption();
@@ -104,7 +104,7 @@ TEST_F(Concealing, StopClearsTheDigitsAndLeavesThePuzzleAlone) {
   for (int cell = 0; cell < kCellCount; ++cell) EXPECT_EQ(rig.form.Cell(cell).text, 0);
 }
 
-TEST_F(Concealing, EveryRunStartsFromTheSameSolution) {
+TEST_F(ConcealingTest, EveryRunStartsFromTheSameSolution) {
   PrepareRandom(5);
   ASSERT_TRUE(Conceal());
   const CellDigits first = rig.state.Puzzle;
@@ -117,7 +117,7 @@ TEST_F(Concealing, EveryRunStartsFromTheSameSolution) {
 }
 
 // While uniqueness is tested the board shows what the pass before has left.
-TEST_F(Concealing, DigitsAreRedrawnAfterEveryPass) {
+TEST_F(ConcealingTest, DigitsAreRedrawnAfterEveryPass) {
   PrepareRandom(7);
   rig.view.onPump = [&](long) {
     int different = 0;
@@ -160,7 +160,7 @@ std::vector<int> CellsFrom(int first, int last) {
 
 // A solution in which one wrong digit clashes with the givens around it: every hiding is refused
 // until the wrong digit's own.
-struct RefusedConcealing : Concealing {
+struct RefusedConcealing : ConcealingTest {
   RefusedConcealing() { Prepare(oracle::RegularLayout(), 1); }
   void Spoil(int cell) {
     rig.state.WorkGrid[cell] = static_cast<std::int16_t>(rig.state.WorkGrid[cell] % 9 + 1);
@@ -174,7 +174,7 @@ struct RefusedConcealing : Concealing {
       if (part != FormPart::kCell || rig.form.Cell(cell).text != 0) return;
       if (std::find(hidden.begin(), hidden.end(), cell) == hidden.end()) hidden.push_back(cell);
     };
-    Concealer concealer(rig.state, rig.form, rig.view, script, rig.clock, rig.search);
+    Concealing concealer(rig.state, rig.form, rig.view, script, rig.clock, rig.search);
     EXPECT_TRUE(concealer.ConcealCells2ValidTessel());
     EXPECT_EQ(rig.state.WorkGrid, spoilt);
     rig.view.onChange = nullptr;

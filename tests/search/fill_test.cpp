@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "search/try_out.h"
+#include "search/random_restarts.h"
 #include "tests/oracle/search/independent_solver.h"
 #include "tests/oracle/search/samples.h"
 #include "tests/search/search_rig.h"
@@ -42,7 +42,7 @@ TEST_F(GenerateTessel, SameGridAsTheSearchOfTheOrderItDrew) {
     ASSERT_TRUE(rig.fill.GenerateTessel());
     SeededRandom random(seed);
     const auto expected =
-        oracle::TryOrders(SampleLayout(1, kRandom), random, kTryOutLimit, 100'000);
+        oracle::TryOrders(SampleLayout(1, kRandom), random, kRestartCutoff, 100'000);
     EXPECT_EQ(rig.state.WorkGrid, expected.solution) << seed;
   }
 }

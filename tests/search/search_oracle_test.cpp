@@ -39,8 +39,8 @@ Layout LayoutNumber(std::uint64_t number) {
 // Searches until it is asked the `limit`-th time whether to proceed.
 class LimitedDriver final : public SearchDriver {
  public:
-  LimitedDriver(long limit, bool follow) : left_(limit) { FollowPlacements(follow); }
-  bool Proceed() override { return --left_ > 0; }
+  LimitedDriver(long limit, bool follow) : left_(limit) { ObservePlacements(follow); }
+  bool BeforeIteration() override { return --left_ > 0; }
   bool ContinueAfterSolution() override { return false; }
 
  private:
@@ -68,11 +68,11 @@ testing::AssertionResult SameLevel(const SearchLevel& level, const LiteralLevel&
   return testing::AssertionSuccess();
 }
 
-void ExpectSameLevels(const ExactCoverSearch& search, const LiteralSearch& literal,
+void ExpectSameLevels(const SearchProbe& search, const LiteralSearch& literal,
                       int positions = kCellCount) {
-  ASSERT_EQ(search.Depth, literal.Depth);
-  for (int depth = 0; depth <= search.Depth; ++depth) {
-    ASSERT_TRUE(SameLevel(search.Levels[depth], literal.Levels[depth], positions))
+  ASSERT_EQ(search.Depth(), static_cast<std::size_t>(literal.Depth));
+  for (std::size_t depth = 0; depth <= search.Depth(); ++depth) {
+    ASSERT_TRUE(SameLevel(search.Levels()[depth], literal.Levels[depth], positions))
         << "level " << depth;
   }
 }
@@ -88,12 +88,12 @@ bool CompareSearch(SearchRig& rig, LiteralSearch& literal, const Grid& order, lo
   LimitedDriver driver(limit, follow);
   const auto before = rig.search.Iterations();
   rig.search.StartEmpty(order);
-  const SearchEnd end = rig.search.Run(driver);
-  EXPECT_EQ(end == SearchEnd::kSolved, literalEnd == LiteralSearch::End::kSolved);
-  EXPECT_EQ(end == SearchEnd::kStopped, literalEnd == LiteralSearch::End::kStopped);
+  const SearchResult end = rig.search.Run(driver);
+  EXPECT_EQ(end == SearchResult::kSolved, literalEnd == LiteralSearch::End::kSolved);
+  EXPECT_EQ(end == SearchResult::kStopped, literalEnd == LiteralSearch::End::kStopped);
   EXPECT_EQ(rig.search.Iterations() - before, literal.iterations - literalBefore);
-  ExpectSameLevels(rig.search, literal);
-  return end == SearchEnd::kSolved;
+  ExpectSameLevels(rig.probe, literal);
+  return end == SearchResult::kSolved;
 }
 
 TEST(SearchOracle, SameLevelsWhereverAFillEndsOrIsInterrupted) {
@@ -129,10 +129,9 @@ TEST(SearchOracle, SameUniquenessIterationsAndPumpsOverConcealing) {
       ASSERT_EQ(rig.UniqueSolution(givens), unique);
       ASSERT_EQ(rig.search.Iterations(), conceal.search.iterations);
       ASSERT_EQ(rig.view.pumps, conceal.search.pumps);
-      ASSERT_EQ(rig.state.WorkGrid, givens);
       if (conceal.search.iterations > iterations) {
         const auto empty = std::count(givens.begin(), givens.end(), 0);
-        ExpectSameLevels(rig.search, conceal.search, static_cast<int>(empty));
+        ExpectSameLevels(rig.probe, conceal.search, static_cast<int>(empty));
       }
       iterations = conceal.search.iterations;
     };

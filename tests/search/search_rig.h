@@ -4,12 +4,14 @@
 #include <algorithm>
 
 #include "core/random_source.h"
-#include "search/conceal.h"
-#include "search/fill.h"
-#include "search/progress_drawing.h"
+#include "shell/concealing.h"
+#include "shell/filling.h"
+#include "shell/progress_drawing.h"
+#include "shell/window_progress.h"
 #include "tests/fakes/fake_clock.h"
 #include "tests/fakes/recording_view.h"
-#include "tests/oracle/search/oracle_board.h"
+#include "tests/oracle/search/program_layout.h"
+#include "tests/search/search_probe.h"
 
 namespace tessel {
 
@@ -28,23 +30,22 @@ struct SearchRig {
   }
 
   void Use(const oracle::Layout& layout) {
-    state.CageOfCell = layout.cageOfCell;
-    state.CageCells = layout.cageCells;
+    SetLayout(state, oracle::ProgramLayout(layout));
+    search.Use(oracle::ProgramLayout(layout));
   }
-  bool UniqueSolution(const CellDigits& givens) {
-    state.WorkGrid = givens;
-    return search.UniqueSolution();
-  }
-  SearchLevel& Top() { return search.Levels[search.Depth]; }
+  bool UniqueSolution(const CellDigits& givens) { return search.UniqueSolution(givens, progress); }
+  SearchLevel& Top() { return probe.Levels()[probe.Depth()]; }
 
   FakeClock clock;
   RecordingView view;
   GameState state;
   Form form{view};
   SeededRandom random;
-  ExactCoverSearch search{state, view};
-  FillGenerator fill{state, form, view, random, clock, search};
-  Concealer concealer{state, form, view, random, clock, search};
+  WindowProgress progress{state, view};
+  ExactCoverSearch search{Layout::Regular()};
+  SearchProbe probe{search};
+  Filling fill{state, form, view, random, clock, search};
+  Concealing concealer{state, form, view, random, clock, search};
   ProgressDrawing drawing{state, form, search};
 };
 

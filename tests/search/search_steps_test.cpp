@@ -34,7 +34,7 @@ struct SearchSteps : testing::Test {
 };
 
 TEST_F(SearchSteps, StartsWithNothingPlaced) {
-  EXPECT_EQ(rig.search.Depth, 0);
+  EXPECT_EQ(rig.probe.Depth(), 0u);
   for (int cell = 0; cell < kCellCount; ++cell) {
     EXPECT_EQ(top().Digit[cell], 0);
     EXPECT_EQ(top().Candidates[cell], kAllCandidates);
@@ -158,24 +158,24 @@ TEST_F(SearchSteps, UndoGivesBackWhatTheNewestEntryTook) {
 // Proceeds until a trial level stands on two others.
 class UntilTheThirdTrialLevel final : public SearchDriver {
  public:
-  explicit UntilTheThirdTrialLevel(const ExactCoverSearch& search) : search_(search) {}
-  bool Proceed() override { return search_.Depth < 4; }
+  explicit UntilTheThirdTrialLevel(const SearchProbe& search) : search_(search) {}
+  bool BeforeIteration() override { return search_.Depth() < 4; }
   bool ContinueAfterSolution() override { return false; }
 
  private:
-  const ExactCoverSearch& search_;
+  const SearchProbe& search_;
 };
 
 // Deliberate: the log is one stack along the path, not one for each level.
 TEST_F(SearchSteps, OpenedLevelCarriesOnTheLogOfTheLevelBelow) {
   SeededRandom random(1);
   rig.search.StartEmpty(oracle::DrawOrder(random));
-  UntilTheThirdTrialLevel driver(rig.search);
-  ASSERT_EQ(rig.search.Run(driver), SearchEnd::kStopped);
-  ASSERT_EQ(rig.search.Depth, 4);
-  const auto& levels = rig.search.Levels;
+  UntilTheThirdTrialLevel driver(rig.probe);
+  ASSERT_EQ(rig.search.Run(driver), SearchResult::kStopped);
+  ASSERT_EQ(rig.probe.Depth(), 4u);
+  const auto& levels = rig.probe.Levels();
   EXPECT_GT(levels[0].UndoCount, 0);
-  for (int depth = 1; depth <= 4; ++depth) {
+  for (std::size_t depth = 1; depth <= 4; ++depth) {
     const SearchLevel& below = levels[depth - 1];
     EXPECT_GE(levels[depth].UndoCount, below.UndoCount);
     for (int u = 1; u <= below.UndoCount; ++u) {

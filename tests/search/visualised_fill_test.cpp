@@ -3,7 +3,7 @@
 
 #include <functional>
 
-#include "search/try_out.h"
+#include "search/random_restarts.h"
 #include "tests/oracle/search/samples.h"
 #include "tests/search/search_rig.h"
 
@@ -39,7 +39,7 @@ struct Marks {
 struct VisualisedFill : testing::TestWithParam<std::uint64_t> {
   VisualisedFill() {
     SeededRandom orders(GetParam());
-    tryOuts = oracle::TryOrders(layout, orders, kTryOutLimit, 100'000);
+    tryOuts = oracle::TryOrders(layout, orders, kRestartCutoff, 100'000);
     for (int cell = 0; cell < kCellCount; ++cell) rig.form.SetMarksColour(cell, kBlack);
     for (auto& cell : expected.black) cell.fill(true);
     rig.form.SetChecked(CheckBox::CheckVisualize, true);

@@ -173,12 +173,12 @@ TEST_F(EventsInsideCommands, StopEndsAConcealAfterTheRunningTest) {
 TEST_F(EventsInsideCommands, AFillWithoutSolutionEndsByStop) {
   program.Tick(CheckBox::MakeRegular);
   program.main.Click(Button::CommandSaw);
-  for (int cell = 0; cell < 2 * kSide; ++cell) {
-    program.state().CageOfCell[cell] = static_cast<std::int16_t>(1 + RowOf(cell));
+  CageNumbers cages = Layout::Regular().Cages();
+  for (int cell = 0; cell < 3 * kSide; ++cell) {
+    cages[cell] = static_cast<std::uint8_t>(1 + RowOf(cell));
   }
-  for (int cell = 2 * kSide; cell < 3 * kSide; ++cell) program.state().CageOfCell[cell] = 3;
-  std::swap(program.state().CageOfCell[8], program.state().CageOfCell[17]);
-  RebuildCageCells(program.state());
+  std::swap(cages[8], cages[17]);
+  SetLayout(program.state(), Layout::FromCages(cages, Layout::Shape::kAny).value());
   const long target = program.view.pumps + 20'000;
   program.view.onPump = [&](long pump) {
     if (pump == target) program.main.Click(Button::CommandGo);

@@ -4,6 +4,8 @@
 #include <numeric>
 #include <vector>
 
+#include "tests/core/layouts.h"
+
 namespace tessel::literal {
 
 namespace {
@@ -178,18 +180,13 @@ Scene AnyScene(const SolvedLayout& solved, RandomSource& random) {
 
 void Load(const Scene& scene, GameState& state) {
   for (int cell = 0; cell < 81; ++cell) {
-    state.CageOfCell[cell] = static_cast<std::int16_t>(scene.cages[cell]);
     state.SavedPuzzle.CageMap[cell] = static_cast<std::uint8_t>(scene.cages[cell]);
     state.SavedPuzzle.Solution[cell] = static_cast<std::uint8_t>(scene.solution[cell]);
     state.SavedPuzzle.Board[cell] = static_cast<std::uint8_t>(scene.board[cell]);
     state.Candidates[cell] = static_cast<Mask>(scene.marks[cell]);
   }
   state.PlayBoard = state.SavedPuzzle;
-  std::array<int, 9> count{};
-  for (int cell = 0; cell < 81; ++cell) {
-    const int g = scene.cages[cell] - 1;
-    state.CageCells[g][count[g]++] = static_cast<std::int16_t>(cell);
-  }
+  SetLayout(state, LayoutOfCages(scene.cages));
 }
 
 }  // namespace tessel::literal

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/form.h"
+#include "core/game_state.h"
 #include "search/exact_cover_search.h"
 
 namespace tessel {

@@ -1,4 +1,4 @@
-#include "search/progress_drawing.h"
+#include "shell/progress_drawing.h"
 
 namespace tessel {
 

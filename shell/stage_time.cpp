@@ -1,4 +1,4 @@
-#include "core/stage_time.h"
+#include "shell/stage_time.h"
 
 #include <array>
 #include <charconv>

@@ -1,4 +1,4 @@
-#include "search/try_out.h"
+#include "search/random_restarts.h"
 
 #include <gtest/gtest.h>
 
@@ -27,12 +27,12 @@ constexpr auto kRotational = LiteralLayout::Mode::kRotational;
 constexpr long kLimit = 500;
 constexpr std::int64_t kPlenty = 10'000'000;
 
-struct TryOutTest : testing::Test {
+struct RandomRestartsTest : testing::Test {
   SearchRig rig{SampleLayout(1, kRandom)};
-  TryOut tries{rig.state, rig.view, rig.random, rig.search};
+  RandomRestarts tries{rig.search, rig.random, rig.progress};
 };
 
-TEST_F(TryOutTest, EndsWithTheFirstOrderWhoseSearchEndsWithinTheLimit) {
+TEST_F(RandomRestartsTest, EndsWithTheFirstOrderWhoseSearchEndsWithinTheLimit) {
   for (std::uint64_t seed = 0; seed < kSeeds; ++seed) {
     const auto layout = SampleLayout(seed, seed % 2 == 0 ? kRandom : kRotational);
     if (IndependentSolver(layout).HasFilling(1'000'000) != true) continue;
@@ -44,7 +44,7 @@ TEST_F(TryOutTest, EndsWithTheFirstOrderWhoseSearchEndsWithinTheLimit) {
     rig.random.Seed(seed);
     rig.view.pumps = 0;
     const auto before = rig.search.Iterations();
-    ASSERT_EQ(tries.Run(kPlenty), TryOut::End::kFilled) << seed;
+    ASSERT_EQ(tries.Run(kPlenty), RandomRestarts::Result::kFilled) << seed;
     ASSERT_EQ(tries.Order(), expected.order) << seed;
     ASSERT_EQ(rig.Top().Digit, expected.solution) << seed;
     ASSERT_EQ(rig.view.pumps, expected.pumps) << seed;
@@ -52,39 +52,39 @@ TEST_F(TryOutTest, EndsWithTheFirstOrderWhoseSearchEndsWithinTheLimit) {
   }
 }
 
-TEST_F(TryOutTest, StopEndsItWithinOneIteration) {
+TEST_F(RandomRestartsTest, StopEndsItWithinOneIteration) {
   rig.view.onPump = [&](long pump) { rig.state.StopRequested = pump == 25; };
-  EXPECT_EQ(tries.Run(kPlenty), TryOut::End::kStopped);
+  EXPECT_EQ(tries.Run(kPlenty), RandomRestarts::Result::kStopped);
   EXPECT_EQ(rig.view.pumps, 25);
 }
 
-TEST_F(TryOutTest, GivesUpWhenTheIterationsAllowedAreUsedUp) {
+TEST_F(RandomRestartsTest, GivesUpWhenTheIterationsAllowedAreUsedUp) {
   rig.Use(SampleLayout(9, kRandom));  // has no filling
-  EXPECT_EQ(tries.Run(20'000), TryOut::End::kGivenUp);
+  EXPECT_EQ(tries.Run(20'000), RandomRestarts::Result::kGivenUp);
   EXPECT_GE(rig.search.Iterations(), 20'000);
-  EXPECT_LE(rig.search.Iterations(), 20'000 + kTryOutLimit);
+  EXPECT_LE(rig.search.Iterations(), 20'000 + kRestartCutoff);
 }
 
 // The search itself: a board that cannot be filled is exhausted, whatever the driver.
-TEST_F(TryOutTest, SearchWithoutASolutionIsExhausted) {
+TEST_F(RandomRestartsTest, SearchWithoutASolutionIsExhausted) {
   struct : SearchDriver {
-    bool Proceed() override { return true; }
+    bool BeforeIteration() override { return true; }
     bool ContinueAfterSolution() override { return false; }
   } driver;
   SeededRandom random(2);
   rig.search.StartEmpty(oracle::DrawOrder(random));
   for (int cell = 0; cell < 4; ++cell) rig.Top().Candidates[cell] = 0b111;  // of one row
-  EXPECT_EQ(rig.search.Run(driver), SearchEnd::kExhausted);
-  EXPECT_EQ(rig.search.Depth, 0);
+  EXPECT_EQ(rig.search.Run(driver), SearchResult::kExhausted);
+  EXPECT_EQ(rig.probe.Depth(), 0u);
 }
 
 void ExpectRightAnswer(SearchRig& rig, const oracle::Layout& layout) {
   rig.Use(layout);
-  const bool admits = AdmitsFilling(rig.state, rig.view, rig.search);
+  const bool admits = FindsFillingWithinBudget(rig.search, rig.progress);
   EXPECT_EQ(IndependentSolver(layout).HasFilling(2'000'000), admits);
 }
 
-TEST_F(TryOutTest, AdmitsFillingExactlyWhenThereIsOne) {
+TEST_F(RandomRestartsTest, FillingIsFoundExactlyWhenThereIsOne) {
   for (std::uint64_t seed = 0; seed < kSeeds; ++seed) {
     SCOPED_TRACE(seed);
     ExpectRightAnswer(rig, SampleLayout(seed, kRandom));
@@ -92,21 +92,21 @@ TEST_F(TryOutTest, AdmitsFillingExactlyWhenThereIsOne) {
   }
 }
 
-TEST_F(TryOutTest, LayoutsWithoutAFillingAreRefused) {
+TEST_F(RandomRestartsTest, LayoutsWithoutAFillingAreRefused) {
   for (const std::uint64_t seed : kUnfillable) {
     SCOPED_TRACE(seed);
     ExpectRightAnswer(rig, SampleLayout(seed, kRandom));
-    EXPECT_FALSE(AdmitsFilling(rig.state, rig.view, rig.search));
+    EXPECT_FALSE(FindsFillingWithinBudget(rig.search, rig.progress));
   }
 }
 
-TEST_F(TryOutTest, AdmitsFillingDependsOnTheLayoutAlone) {
+TEST_F(RandomRestartsTest, AnswerDependsOnTheLayoutAlone) {
   const float next = SeededRandom(77).Next();
   rig.random.Seed(77);
-  EXPECT_TRUE(AdmitsFilling(rig.state, rig.view, rig.search));
+  EXPECT_TRUE(FindsFillingWithinBudget(rig.search, rig.progress));
   EXPECT_EQ(rig.random.Next(), next);
   const auto iterations = rig.search.Iterations();
-  EXPECT_TRUE(AdmitsFilling(rig.state, rig.view, rig.search));
+  EXPECT_TRUE(FindsFillingWithinBudget(rig.search, rig.progress));
   EXPECT_EQ(rig.search.Iterations(), 2 * iterations);
 }
 

@@ -1,0 +1,35 @@
+// one_puzzle SEED: makes a puzzle with nothing but core, layout and search, and prints its givens
+// and the cage of each cell.
+#include <cstdio>
+#include <cstdlib>
+
+#include "layout/cage_generator.h"
+#include "search/conceal.h"
+#include "search/fill.h"
+#include "search/random_restarts.h"
+
+namespace {
+
+void Print(const tessel::PerCell<std::uint8_t>& numbers, char end) {
+  for (const int number : numbers) std::putchar(number == 0 ? '.' : '0' + number);
+  std::putchar(end);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  using namespace tessel;
+  if (argc != 2) return EXIT_FAILURE;
+  SeededRandom random(std::strtoull(argv[1], nullptr, 10));
+  ExactCoverSearch search(Layout::Regular());
+  const auto canBeFilled = [&search](const Layout& sawn) {
+    search.Use(sawn);
+    return FindsFillingWithinBudget(search);
+  };
+  const Layout layout = Saw(Symmetry::kNone, random, canBeFilled).value();
+  const Grid solution = Fill(layout, random).value();
+  const Grid givens = Conceal(layout, solution, ConcealMode::kSingle, random).value();
+  Print(givens, ' ');
+  Print(layout.Cages(), '\n');
+  return HasUniqueSolution(layout, givens) ? EXIT_SUCCESS : EXIT_FAILURE;
+}
