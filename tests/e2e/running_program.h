@@ -65,11 +65,16 @@ class RunningProgram {
   DesktopWindow Question() const;
   bool Asks() const;
 
+  pid_t Id() const { return static_cast<pid_t>(process_.processId()); }
   void SendSignal(int number) const;
   bool Running();
   // Waits for the end; false when it does not come.
   bool Ended();
   int ExitStatus() const { return process_.exitCode(); }
+  // It has ended, and neither by a crash nor with a complaint.
+  bool EndedInOrder() {
+    return Ended() && process_.exitStatus() == QProcess::NormalExit && ExitStatus() == 0;
+  }
 
  private:
   QStringList Windows() const;

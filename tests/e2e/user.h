@@ -30,6 +30,8 @@ class User {
 
   RunningProgram& Program() { return program_; }
   testing::AssertionResult ResizesWindow(QSize size);
+  // The window's size has changed by another hand.
+  void NoticesSize() { twin_.Resize(program_.Window().Area().size()); }
 
   // By mouse: a left click on the control of this name; a click on a digit's mark.
   void Press(const char* control) const;

@@ -81,9 +81,11 @@ QImage WindowTwin::RunningButton(tessel::Button button, const char* caption) {
   Form form(view);
   form.SetButtonCaption(button, caption);
   form.ShowSolveButtons(true);
-  panel.Show(form, button);
+  form.SetRunning(button);
+  panel.Show(form);
   const QImage picture = Plain(panel.Of(button)->grab());
-  panel.Show(form, std::nullopt);
+  form.SetRunning(std::nullopt);
+  panel.Show(form);
   return picture;
 }
 
