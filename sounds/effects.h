@@ -8,17 +8,17 @@ namespace tessel::synth {
 
 Signal EffectOf(Sound sound);
 
-// people.cpp
+// human_sounds.cpp
 Signal Applause();
 Signal Giggle();
 
-// things.cpp
+// object_sounds.cpp
 Signal Patch();
 Signal Boink();
 Signal Blaster();
 Signal CashRegister();
 
-// beeps.cpp
+// beep_sounds.cpp
 Signal Beep1();
 Signal Beep2();
 Signal Beep5();

@@ -38,7 +38,7 @@ Signal Finished(Signal signal, double level) {
   constexpr double kLowestAudible = 30;
   signal = Shaped(HighPass(std::move(signal), kLowestAudible), kFade, kFade);
   const double gain = std::min(level / LoudestWindow(signal), kHighestPeak / Peak(signal));
-  signal.resize(signal.size() + SamplesIn(kRest));
+  signal.resize(signal.size() + SamplesIn(kTrailingSilence));
   return Scaled(std::move(signal), gain);
 }
 

@@ -50,12 +50,12 @@ Signal HighPass(Signal signal, double cutoff);
 void Add(Signal& mix, double start, const Signal& part, double gain = 1.0);
 
 // Ready to be heard: no constant part, no click at either end, the loudest twentieth of a second
-// at `level` (root mean square) unless the highest peak would come above kHighestPeak, and a rest
-// behind it.
+// at `level` (root mean square) unless the highest peak would come above kHighestPeak, and
+// kTrailingSilence at the end.
 Signal Finished(Signal signal, double level);
 inline constexpr double kHighestPeak = 0.8;
-// Seconds of silence at the end. Qt Multimedia drops what the sound server still holds back when a
-// file is over, which was measured to be the last 0.12 s.
-inline constexpr double kRest = 0.25;
+// In seconds. Qt Multimedia drops what the sound server still holds back when a file ends, which
+// was measured to be the last 0.12 s.
+inline constexpr double kTrailingSilence = 0.25;
 
 }  // namespace tessel::synth

@@ -8,7 +8,7 @@ namespace tessel::synth {
 namespace {
 
 constexpr int kBytesPerSample = 2;
-constexpr std::uint32_t kHeaderBehindSize = 36;
+constexpr std::uint32_t kHeaderBytesAfterSize = 36;
 
 // The lowest `bytes` bytes of the number, lowest first.
 std::string LittleEndian(std::uint32_t number, int bytes) {
@@ -25,10 +25,10 @@ std::string SampleOf(double value) {
 }
 
 std::string Header(std::uint32_t dataSize) {
-  constexpr std::uint32_t kPlainNumbers = 1;
+  constexpr std::uint32_t kPcm = 1;
   constexpr std::uint32_t kChannels = 1;
-  return "RIFF" + LittleEndian(kHeaderBehindSize + dataSize, 4) + "WAVEfmt " + LittleEndian(16, 4) +
-         LittleEndian(kPlainNumbers, 2) + LittleEndian(kChannels, 2) +
+  return "RIFF" + LittleEndian(kHeaderBytesAfterSize + dataSize, 4) + "WAVEfmt " +
+         LittleEndian(16, 4) + LittleEndian(kPcm, 2) + LittleEndian(kChannels, 2) +
          LittleEndian(kSampleRate, 4) + LittleEndian(kSampleRate * kBytesPerSample, 4) +
          LittleEndian(kBytesPerSample, 2) + LittleEndian(8 * kBytesPerSample, 2) + "data" +
          LittleEndian(dataSize, 4);

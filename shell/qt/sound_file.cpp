@@ -46,7 +46,7 @@ bool Is(const Name& name, std::string_view text) {
   return std::string_view(name.data(), name.size()) == text;
 }
 
-bool IsPlain(const Format& format) {
+bool IsSupportedPcm(const Format& format) {
   constexpr int kPcm = 1;
   return format.coding == kPcm && (format.channels == 1 || format.channels == 2) &&
          format.rate >= 4'000 && format.rate <= 192'000 && (format.bits == 8 || format.bits == 16);
@@ -56,14 +56,14 @@ bool IsPlain(const Format& format) {
 bool HoldsSamples(std::istream& file, std::streamoff fileSize) {
   const auto riff = Read<RiffHeader>(file);
   if (!riff || !Is(riff->riff, "RIFF") || !Is(riff->wave, "WAVE")) return false;
-  bool plain = false;
+  bool supported = false;
   while (const auto chunk = Read<ChunkHeader>(file)) {
     const std::streamoff size = chunk->size;
     const std::streamoff end = file.tellg() + size;
-    if (Is(chunk->name, "data")) return plain && size > 0 && end <= fileSize;
+    if (Is(chunk->name, "data")) return supported && size > 0 && end <= fileSize;
     if (Is(chunk->name, "fmt ")) {
       const auto format = Read<Format>(file);
-      plain = format && IsPlain(*format);
+      supported = format && IsSupportedPcm(*format);
     }
     file.seekg(end + size % 2);
   }

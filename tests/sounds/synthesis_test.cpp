@@ -34,7 +34,7 @@ class SoundFile : public testing::TestWithParam<std::size_t> {
  protected:
   static std::string Name() { return std::string(kSoundFiles[GetParam()]); }
   static std::string Built() { return BytesOf(TESSEL_SOUND_FOLDER + Name()); }
-  // The samples without the rest behind them.
+  // The samples without the silence at the end.
   static std::vector<std::int16_t> Audible() {
     std::vector<std::int16_t> samples = SamplesOf(Built());
     while (!samples.empty() && samples.back() == 0) samples.pop_back();
@@ -55,7 +55,7 @@ TEST_P(SoundFile, HasThePlainHeaderOfOneChannelAnd16Bits) {
   EXPECT_EQ(NumberAt(bytes, 4, 4), bytes.size() - 8);
   EXPECT_EQ(bytes.substr(8, 8), "WAVEfmt ");
   EXPECT_EQ(NumberAt(bytes, 16, 4), 16u);
-  EXPECT_EQ(NumberAt(bytes, 20, 2), 1u);  // plain numbers
+  EXPECT_EQ(NumberAt(bytes, 20, 2), 1u);  // PCM
   EXPECT_EQ(NumberAt(bytes, 22, 2), 1u);  // channels
   EXPECT_EQ(NumberAt(bytes, 24, 4), 44'100u);
   EXPECT_EQ(NumberAt(bytes, 28, 4), 88'200u);  // bytes a second
@@ -92,7 +92,7 @@ TEST_P(SoundFile, StartsAndEndsInSilenceWithoutAClick) {
 }
 
 // Qt Multimedia drops the last tenths of a second of a file.
-TEST_P(SoundFile, EndsInARestThatMayBeCutOff) {
+TEST_P(SoundFile, EndsInSilenceThatMayBeCutOff) {
   const std::vector<std::int16_t> samples = SamplesOf(Built());
   ASSERT_GT(samples.size(), 11'025u);
   EXPECT_THAT(std::vector(samples.end() - 11'025, samples.end()), testing::Each(0));
