@@ -61,7 +61,8 @@ class Engine {
       layout = Layout::Regular();
       return;
     }
-    const auto symmetry = kind == LayoutKind::kRotational ? Symmetry::kHalfTurn : Symmetry::kNone;
+    const auto symmetry =
+        kind == LayoutKind::kRotational ? LayoutSymmetry::kHalfTurn : LayoutSymmetry::kNone;
     SeededRandom random(seed);
     layout = Saw(symmetry, random, accept, progress).value();
   }

@@ -26,7 +26,7 @@ int main(int argc, char** argv) {
     search.Use(sawn);
     return FindsFillingWithinBudget(search);
   };
-  const Layout layout = Saw(Symmetry::kNone, random, canBeFilled).value();
+  const Layout layout = Saw(LayoutSymmetry::kNone, random, canBeFilled).value();
   const Grid solution = Fill(layout, random).value();
   const Grid givens = Conceal(layout, solution, ConcealMode::kSingle, random).value();
   Print(givens, ' ');

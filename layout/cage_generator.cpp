@@ -36,8 +36,8 @@ constexpr PerCell<std::array<std::int8_t, 4>> kNeighbours = [] {
 CageGenerator::CageGenerator(RandomSource& random, Progress& progress)
     : random_(random), progress_(progress), nextDirection_(DrawDirection()) {}
 
-std::optional<Layout> CageGenerator::Attempt(Symmetry symmetry) {
-  rotational_ = symmetry == Symmetry::kHalfTurn;
+std::optional<Layout> CageGenerator::Attempt(LayoutSymmetry symmetry) {
+  rotational_ = symmetry == LayoutSymmetry::kHalfTurn;
   cages_ = {};
   unclaimed_ = {kAllCells, {}, {}};
   if (!GrowAll()) return std::nullopt;
@@ -185,7 +185,7 @@ void CageGenerator::TakeFromCurrentCage(int cell) {
   currentCageMask_[cell] = 0;
 }
 
-std::optional<Layout> Saw(Symmetry symmetry, RandomSource& random, const AcceptLayout& accept,
+std::optional<Layout> Saw(LayoutSymmetry symmetry, RandomSource& random, const AcceptLayout& accept,
                           Progress& progress) {
   CageGenerator generator(random, progress);
   while (!progress.StopRequested()) {

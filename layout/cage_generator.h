@@ -14,7 +14,7 @@
 
 namespace tessel {
 
-enum class Symmetry : std::uint8_t {
+enum class LayoutSymmetry : std::uint8_t {
   kNone,
   kHalfTurn,  // cage c and cage 10 - c change places under a half turn, cage 5 with itself
 };
@@ -30,7 +30,7 @@ class CageGenerator {
 
   // One attempt from an empty board; nothing when a cage could not be grown or mirrored. Tells
   // `progress` of every step, and of every cell that stays claimed for the rest of the attempt.
-  std::optional<Layout> Attempt(Symmetry symmetry);
+  std::optional<Layout> Attempt(LayoutSymmetry symmetry);
 
  private:
   bool GrowAll();
@@ -69,7 +69,7 @@ class CageGenerator {
 using AcceptLayout = std::function<bool(const Layout&)>;
 
 // Saws until `accept` is content; nothing when `progress` asked to stop.
-std::optional<Layout> Saw(Symmetry symmetry, RandomSource& random, const AcceptLayout& accept,
+std::optional<Layout> Saw(LayoutSymmetry symmetry, RandomSource& random, const AcceptLayout& accept,
                           Progress& progress = Unwatched());
 
 }  // namespace tessel

@@ -20,24 +20,25 @@ class SawProgress final : public WindowProgress {
       : WindowProgress(state, view), state_(state), form_(form) {}
 
   // Clears the board for an attempt; what symmetry it is to have.
-  Symmetry BeginAttempt() {
+  LayoutSymmetry BeginAttempt() {
     state_.CageOfCell.fill(0);
     for (int cell = 0; cell < kCellCount; ++cell) form_.SetCellOpaque(cell, false);
-    symmetry_ = form_.Checked(CheckBox::Rotational) ? Symmetry::kHalfTurn : Symmetry::kNone;
+    symmetry_ =
+        form_.Checked(CheckBox::Rotational) ? LayoutSymmetry::kHalfTurn : LayoutSymmetry::kNone;
     return symmetry_;
   }
 
   // The centre cage of a rotational layout is not shown while it grows.
   void CellClaimed(int cell, int cage) override {
     state_.CageOfCell[cell] = static_cast<std::int16_t>(cage);
-    if (symmetry_ == Symmetry::kHalfTurn && cage == kCentreCage) return;
+    if (symmetry_ == LayoutSymmetry::kHalfTurn && cage == kCentreCage) return;
     if (form_.Checked(CheckBox::CheckVisualize)) Paint(form_, state_, cell);
   }
 
  private:
   GameState& state_;
   Form& form_;
-  Symmetry symmetry_ = Symmetry::kNone;
+  LayoutSymmetry symmetry_ = LayoutSymmetry::kNone;
 };
 
 }  // namespace

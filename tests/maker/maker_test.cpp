@@ -1,0 +1,133 @@
+#include "maker/maker.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+
+#include "maker/batch.h"
+
+namespace tessel::maker {
+namespace {
+
+using solver::ConcealRule;
+
+int GivensIn(const Puzzle& puzzle) {
+  return kCellCount - static_cast<int>(std::ranges::count(puzzle.givens, 0));
+}
+
+std::vector<Recipe> Recipes() {
+  std::vector<Recipe> recipes;
+  for (const LayoutKind layout :
+       {LayoutKind::kRandom, LayoutKind::kRotational, LayoutKind::kRegular}) {
+    for (const ConcealRule conceal : {ConcealRule::kSingle, ConcealRule::kPairs}) {
+      recipes.push_back({layout, conceal});
+    }
+  }
+  return recipes;
+}
+
+TEST(Maker, PuzzlesHaveTheirSolutionAndNoOther) {
+  for (const Recipe& recipe : Recipes()) {
+    Maker maker(recipe);
+    for (std::uint64_t index = 0; index < 50; ++index) {
+      const Puzzle puzzle = maker.Make(1, index);
+      solver::Solver solver(puzzle.layout);
+      EXPECT_EQ(solver.Completions(puzzle.givens), std::vector{*puzzle.solution});
+    }
+  }
+}
+
+TEST(Maker, APuzzleDependsOnItsSeedAndIndexAlone) {
+  for (const Recipe& recipe : Recipes()) {
+    Maker forwards(recipe);
+    Maker backwards(recipe);
+    std::map<std::uint64_t, Puzzle> puzzles;
+    for (std::uint64_t index = 0; index < 20; ++index) {
+      puzzles.emplace(index, forwards.Make(7, index));
+    }
+    for (std::uint64_t index = 20; index-- > 0;) {
+      EXPECT_EQ(backwards.Make(7, index), puzzles.at(index)) << index;
+    }
+    EXPECT_NE(forwards.Make(8, 0), puzzles.at(0));
+  }
+}
+
+TEST(Maker, LayoutsAreOfTheKindAskedFor) {
+  Maker rotational({LayoutKind::kRotational});
+  const Layout layout = rotational.Make(1, 0).layout;
+  for (int cell = 0; cell < kCellCount; ++cell) {
+    EXPECT_EQ(layout.CageOf(cell) + layout.CageOf(HalfTurnOf(cell)), 10);
+  }
+  Maker regular({LayoutKind::kRegular});
+  EXPECT_EQ(regular.Make(1, 0).layout, Layout::Regular());
+}
+
+TEST(Maker, PairsAreGivenOrConcealedTogether) {
+  Maker maker({LayoutKind::kRandom, ConcealRule::kPairs});
+  const Puzzle puzzle = maker.Make(1, 0);
+  for (int cell = 0; cell < kCellCount; ++cell) {
+    EXPECT_EQ(puzzle.givens[cell] == 0, puzzle.givens[HalfTurnOf(cell)] == 0);
+  }
+}
+
+TEST(Maker, GoesOnToFewerGivensOrStopsAtMore) {
+  Maker usual({LayoutKind::kRandom});
+  Maker more({LayoutKind::kRandom, ConcealRule::kSingle, 40});
+  for (std::uint64_t index = 0; index < 20; ++index) {
+    EXPECT_GE(GivensIn(usual.Make(1, index)), 24);
+    EXPECT_EQ(GivensIn(more.Make(1, index)), 40);
+  }
+}
+
+TEST(Maker, EveryGivenOfAMinimalPuzzleIsNeeded) {
+  Maker maker({LayoutKind::kRandom, ConcealRule::kSingle, solver::kMinimalGivens});
+  for (std::uint64_t index = 0; index < 20; ++index) {
+    const Puzzle puzzle = maker.Make(1, index);
+    solver::Solver solver(puzzle.layout);
+    for (int cell = 0; cell < kCellCount; ++cell) {
+      Grid without = puzzle.givens;
+      if (std::exchange(without[cell], std::uint8_t{0}) == 0) continue;
+      EXPECT_FALSE(solver.HasUniqueCompletion(without)) << index << ", cell " << cell;
+    }
+  }
+}
+
+TEST(BatchMaker, KeepsWhatTheWishAccepts) {
+  Order order;
+  order.graded = true;
+  const auto all = BatchMaker(order).Make(0, 100);
+  ASSERT_EQ(all.size(), 100u);
+  order.wish.easiest = grade::Level::kModerate;
+  order.wish.hardest = grade::Level::kTricky;
+  order.wish.step = grade::StepKind::kPointing;
+  const auto some = BatchMaker(order).Make(0, 100);
+  std::vector<std::uint64_t> expected;
+  for (const Made& made : all) {
+    const grade::Grade& grade = *made.grade;
+    const bool fits =
+        grade.level == grade::Level::kModerate || grade.level == grade::Level::kTricky;
+    if (fits && grade.StepsOf(grade::StepKind::kPointing) > 0) expected.push_back(made.index);
+  }
+  std::vector<std::uint64_t> found;
+  for (const Made& made : some) found.push_back(made.index);
+  EXPECT_EQ(found, expected);
+  EXPECT_FALSE(found.empty());
+}
+
+TEST(BatchMaker, GradesOnlyWhereSomebodyLooks) {
+  Order order;
+  EXPECT_FALSE(BatchMaker(order).Make(0, 1).front().grade);
+  order.wish.mostGivens = 81;
+  EXPECT_FALSE(BatchMaker(order).Make(0, 1).front().grade);
+}
+
+TEST(Wish, RefusesPuzzlesThatNeedMoreGivens) {
+  Order order;
+  order.recipe.givens = 20;
+  order.wish.mostGivens = 20;
+  for (const Made& made : BatchMaker(order).Make(0, 60)) EXPECT_LE(GivensIn(made.puzzle), 20);
+}
+
+}  // namespace
+}  // namespace tessel::maker
