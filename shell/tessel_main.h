@@ -37,9 +37,10 @@ class Tessel_Main {
 
   const Form& form() const { return form_; }
   const GameState& state() const { return state_; }
-  GameState& state() { return state_; }
 
  private:
+  friend class StateProbe;  // of the tests
+
   // Stands for the run of a generation command, which nothing else may disturb.
   class RunningCommandScope {
    public:

@@ -6,6 +6,7 @@
 #include "tests/fakes/fake_clock.h"
 #include "tests/fakes/fake_sound_player.h"
 #include "tests/fakes/recording_view.h"
+#include "tests/fakes/state_probe.h"
 #include "tests/fakes/temporary_folder.h"
 #include "tests/fakes/unthreaded_calls.h"
 
@@ -18,7 +19,8 @@ struct TestProgram {
   }
 
   const Form& form() const { return main.form(); }
-  GameState& state() { return main.state(); }
+  const GameState& state() const { return main.state(); }
+  GameState& Probe() { return StateProbe::Of(main); }
 
   void Tick(CheckBox box, bool checked = true) {
     if (form().Checked(box) != checked) main.Toggle(box);

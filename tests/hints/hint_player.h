@@ -46,7 +46,7 @@ class HintPlayer {
   void Remove(int cell, Mask digits);
 
   TestProgram& program_;
-  GameState& state_;
+  const GameState& state_;
   std::vector<std::pair<int, int>> removals_;  // cell, digit
 };
 

@@ -12,6 +12,9 @@ namespace tessel {
 struct SolvingProgram : TestProgram {
   SolvingProgram();
 
+  // Its tests put boards together by hand.
+  GameState& state() { return Probe(); }
+
   // Restarts with another puzzle; the candidates are those that its givens leave.
   void Play(const PuzzleRecord& puzzle);
   void Play(const RecordedBoard& board);

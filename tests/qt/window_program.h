@@ -14,6 +14,7 @@
 #include "shell/qt/tessel_window.h"
 #include "tests/fakes/fake_clock.h"
 #include "tests/fakes/fake_sound_player.h"
+#include "tests/fakes/state_probe.h"
 #include "tests/fakes/temporary_folder.h"
 
 namespace tessel {
@@ -27,7 +28,8 @@ struct WindowProgram {
   }
 
   const Form& form() const { return main.form(); }
-  GameState& state() { return main.state(); }
+  const GameState& state() const { return main.state(); }
+  GameState& Probe() { return StateProbe::Of(main); }
   template <typename T>
   T* Find(const char* name) {
     T* const found = window.findChild<T*>(name);

@@ -23,7 +23,7 @@ TEST_F(CellClick, LeftKeepsTheCellsCandidatesAndClearsThem) {
 }
 
 TEST_F(CellClick, LeftTakesTheDigitFromRowColumnAndCageAlone) {
-  state().Candidates.fill(kAllCandidates);
+  Probe().Candidates.fill(kAllCandidates);
   Untick();  // no mark is hidden, so the digit can be placed
   Left(40, 7);
   for (int cell = 0; cell < kCellCount; ++cell) {
@@ -47,7 +47,7 @@ TEST_F(CellClick, LeftOnACellWithADigitDoesNothing) {
 }
 
 TEST_F(CellClick, LeftLeavesADigitEvenWhereAMarkIsShown) {
-  state().PlayBoard.Board[kEmpty] = 5;  // not yet drawn
+  Probe().PlayBoard.Board[kEmpty] = 5;  // not yet drawn
   ASSERT_TRUE(Holds(Shown(kEmpty), 2));
   ExpectNothingHappens([&] { Left(kEmpty, 2); });
 }

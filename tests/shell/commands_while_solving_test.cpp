@@ -50,7 +50,7 @@ TEST_F(CommandsWhileSolving, TheOldPuzzleGoesOnAfterANewSaw) {
 
 TEST_F(CommandsWhileSolving, ADigitPlacedAfterANewSawSeesTheNewCages) {
   SawIrregular();
-  state().Candidates.fill(kAllCandidates);
+  Probe().Candidates.fill(kAllCandidates);
   Untick();
   Left(40, 7);
   for (int cell = 0; cell < kCellCount; ++cell) {

@@ -178,7 +178,7 @@ TEST_F(EventsInsideCommands, AFillWithoutSolutionEndsByStop) {
     cages[cell] = static_cast<std::uint8_t>(1 + RowOf(cell));
   }
   std::swap(cages[8], cages[17]);
-  SetLayout(program.state(), Layout::FromCages(cages, Layout::Shape::kAny).value());
+  SetLayout(program.Probe(), Layout::FromCages(cages, Layout::Shape::kAny).value());
   const long target = program.view.pumps + 20'000;
   program.view.onPump = [&](long pump) {
     if (pump == target) program.main.Click(Button::CommandGo);

@@ -10,7 +10,7 @@
 namespace tessel {
 
 struct Snapshot {
-  explicit Snapshot(TestProgram& program)
+  explicit Snapshot(const TestProgram& program)
       : picture(PictureOf(program.form())),
         cages(program.state().CageOfCell),
         workGrid(program.state().WorkGrid),

@@ -225,14 +225,14 @@ TEST_F(SolvingButtons, TheBoxEndsAPendingAssignment) {
 
 TEST_F(SolvingButtons, ABoxAlreadyInStepWithTheModeDoesNothing) {
   Left(kEmpty, 2);
-  state().PencilmarkMode = MarkMode::kNotUpdated;  // out of step with the ticked box
-  state().AssignmentPending = Bool16::True;
+  Probe().PencilmarkMode = MarkMode::kNotUpdated;  // out of step with the ticked box
+  Probe().AssignmentPending = Bool16::True;
   const long changes = program.view.changes;
   program.main.Toggle(CheckBox::CheckPencilmarks);
   EXPECT_EQ(program.view.changes, changes + 1) << "the box itself, no redraw";
   EXPECT_EQ(state().PencilmarkMode, MarkMode::kNotUpdated);
   EXPECT_EQ(state().AssignmentPending, Bool16::True);
-  state().PencilmarkMode = MarkMode::kAutomatic;
+  Probe().PencilmarkMode = MarkMode::kAutomatic;
   program.main.Toggle(CheckBox::CheckPencilmarks);
   EXPECT_EQ(program.view.changes, changes + 2);
   EXPECT_EQ(state().AssignmentPending, Bool16::True);

@@ -33,7 +33,7 @@ class SolvingTest : public testing::Test {
   SolvingTest() {
     program.Tick(CheckBox::MakeRegular);
     program.MakePuzzle();
-    program.state().SavedPuzzle = KnownPuzzle();
+    program.Probe().SavedPuzzle = KnownPuzzle();
     program.main.Click(Button::CommandSolve);
     TakeSounds();
   }
@@ -44,7 +44,8 @@ class SolvingTest : public testing::Test {
   void Untick() { program.Tick(CheckBox::CheckPencilmarks, false); }
 
   const Form& form() const { return program.form(); }
-  GameState& state() { return program.state(); }
+  const GameState& state() const { return program.state(); }
+  GameState& Probe() { return program.Probe(); }
   int Board(int cell) { return state().PlayBoard.Board[cell]; }
   Mask Candidates(int cell) { return state().Candidates[cell]; }
   Mask Shown(int cell) { return ShownMarks(form(), cell); }
@@ -70,10 +71,10 @@ class SolvingTest : public testing::Test {
   void Announce(int cell) {
     Untick();
     const MaskBoard kept = state().Candidates;
-    state().Candidates.fill(0);
-    state().Candidates[cell] = BitOf(1);
+    Probe().Candidates.fill(0);
+    Probe().Candidates[cell] = BitOf(1);
     program.main.Click(Button::CommandHint);
-    state().Candidates = kept;
+    Probe().Candidates = kept;
     TakeSounds();
     ASSERT_EQ(state().AssignmentPending, Bool16::True);
     ASSERT_EQ(form().Of(Button::CommandHint).caption, "Show Me");

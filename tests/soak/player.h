@@ -50,7 +50,7 @@ class Player {
 
   SeededRandom random_;
   TestProgram program_;
-  GameState& state_;
+  const GameState& state_;
   long stopAt_ = 0;  // the pump of the running command that brings a click on its button
 };
 
