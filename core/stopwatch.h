@@ -11,11 +11,12 @@ class sTime {
  public:
   explicit sTime(Clock& clock) : clock_(clock) {}
 
-  // Chooses the time source; call it before the first StartTime.
+  // Chooses the time source: the performance counter if it ticks at 10 MHz or more, else the tick
+  // count. Call it before the first StartTime.
   void Init();
   void StartTime();
   void StopTime();
-  // Seconds between StartTime and the last StopTime; never negative.
+  // Seconds between StartTime and the last StopTime: 0 before that, and never negative.
   double RetTime() const { return elapsed_; }
 
  private:

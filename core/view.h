@@ -25,6 +25,7 @@ class View {
  public:
   virtual ~View() = default;
 
+  // Opens the window; the first call of all.
   virtual void Show() = 0;
   // A number that stands for the window towards the sound player.
   virtual std::int32_t WindowHandle() = 0;
@@ -32,8 +33,11 @@ class View {
   virtual void PumpEvents() = 0;
   // The same for a command that waits: PumpEvents may put events off, this does not.
   virtual void PumpEventsNow() { PumpEvents(); }
+  // Returns when the question is answered: true for Yes, false for No or when it was closed.
   virtual bool AskYesNo(const std::string& question, const std::string& title) = 0;
+  // Sounds the system's beep and does not wait for its end.
   virtual void Beep() = 0;
+  // Ends the program once the running event is over; asks nothing.
   virtual void EndProgram() = 0;
   // The Form shows something else at this place now. Only to be noted: it is no place to act in.
   virtual void FormChanged(FormPart part, int index) = 0;
