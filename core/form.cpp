@@ -1,7 +1,5 @@
 #include "core/form.h"
 
-#include <algorithm>
-
 #include "core/texts.h"
 
 namespace tessel {
@@ -102,16 +100,8 @@ void Form::SetNotice(const std::string& text) {
   Assign(notice_, text, FormPart::kNotice);
 }
 
-void Form::SelectText1(std::size_t start, std::size_t length) {
-  text1SelectionStart_ = std::min(start, text1_.size());
-  text1SelectionLength_ = std::min(length, text1_.size() - text1SelectionStart_);
-}
 void Form::ReplaceText1Selection(const std::string& text) {
-  std::string changed = text1_;
-  changed.replace(text1SelectionStart_, text1SelectionLength_, text);
-  const std::size_t caret = text1SelectionStart_ + text.size();
-  Assign(text1_, changed, FormPart::kText1);
-  SelectText1(caret, 0);
+  if (text1_.ReplaceSelection(text)) view_.FormChanged(FormPart::kText1, 0);
 }
 
 }  // namespace tessel

@@ -10,6 +10,7 @@
 #include "core/cell.h"
 #include "core/colour.h"
 #include "core/controls.h"
+#include "core/vestiges.h"
 #include "core/view.h"
 
 namespace tessel {
@@ -84,9 +85,9 @@ class Form {
   const std::string& TextHint() const { return textHint_; }
   void SetTextHint(const std::string& text);
 
-  // The spare text box, not shown. Its selection is a caret position and a length.
-  const std::string& Text1() const { return text1_; }
-  void SelectText1(std::size_t start, std::size_t length);
+  // The spare text box.
+  const std::string& Text1() const { return text1_.Text(); }
+  void SelectText1(std::size_t start, std::size_t length) { text1_.Select(start, length); }
   void ReplaceText1Selection(const std::string& text);
 
   // The line at the foot of the window; empty when there is nothing to say.
@@ -107,10 +108,8 @@ class Form {
   std::array<bool, kCheckBoxCount> boxes_{};
   std::string caption_;
   std::string textHint_;
-  std::string text1_;
+  SpareText text1_;
   std::string notice_;
-  std::size_t text1SelectionStart_ = 0;
-  std::size_t text1SelectionLength_ = 0;
   bool solveButtonsVisible_ = false;
   std::optional<Button> running_;
 };

@@ -6,7 +6,6 @@
 #include <memory>
 #include <span>
 #include <string>
-#include <vector>
 
 #include "core/board.h"
 #include "core/colour.h"
@@ -15,6 +14,7 @@
 #include "core/position.h"
 #include "core/puzzle_record.h"
 #include "core/stopwatch.h"
+#include "core/vestiges.h"
 
 namespace tessel {
 
@@ -22,7 +22,7 @@ namespace tessel {
 enum class Bool16 : std::int16_t { False = 0, True = -1 };
 
 // The solving game's fields are those of its Position.
-struct GameState : Position {
+struct GameState : Position, StateVestiges {
   std::string ProgramPath;  // the program's folder, always ending in the platform's separator
 
   // Tables, filled at start-up.
@@ -37,24 +37,12 @@ struct GameState : Position {
   CellDigits WorkGrid{};  // the working board of generation
   CellDigits Puzzle{};    // the finished puzzle's givens
   PuzzleRecord SavedPuzzle;
-  bool Finished =
-      false;  // kept up to date, read by nothing: CommandSolution's enabled state decides
-
-  // The undo stack of RemoveCandidates: entries 1..UndoCount, entry 0 unused.
-  std::vector<std::int16_t> UndoDigit;
-  std::vector<std::int16_t> UndoCell;
-  std::vector<std::int16_t> UndoRowMask;     // bit k: removed from the k-th cell of the row
-  std::vector<std::int16_t> UndoColumnMask;  // bit k: removed from the k-th cell of the column
-  std::vector<std::int16_t> UndoCageMask;    // bit k: removed from CageCells[cage - 1][k]
-  std::int16_t UndoCount = 0;
-  CellDigits CellList{};  // read by RemoveCandidates; nothing fills it
 
   bool StopRequested = false;
   std::unique_ptr<sTime> Stopwatch;  // of the running stage
 
   std::array<std::int32_t, 12> SoundIds{};
   bool SoundOn = false;
-  bool Command1Pressed = false;  // set by the spare button, read by nothing
 
   // The hint result: a technique sets the fields that its kind needs, the others keep their values.
   HintCode HintKind = HintCode::kNone;
