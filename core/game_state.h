@@ -23,7 +23,8 @@ enum class Bool16 : std::int16_t { False = 0, True = -1 };
 
 // The solving game's fields are those of its Position.
 struct GameState : Position, StateVestiges {
-  std::string ProgramPath;  // the program's folder, always ending in the platform's separator
+  // The program's folder; from start-up on it ends in the platform's separator.
+  std::string ProgramPath;
 
   // Tables, filled at start-up.
   std::array<std::int16_t, 512> BitCount{};       // number of set bits of the index

@@ -1,4 +1,5 @@
-// Saw, Fill and Conceal: the stages and who may run when.
+#include "shell/generation_commands.h"
+
 #include "core/texts.h"
 #include "search/random_restarts.h"
 #include "shell/concealing.h"
@@ -8,23 +9,36 @@
 #include "shell/sawing.h"
 #include "shell/stage.h"
 #include "shell/stage_time.h"
-#include "shell/tessel_main.h"
 #include "shell/window_progress.h"
 
 namespace tessel {
 
-// Events come in while a command runs. The board and the frame of the solving mode answer none of
-// them, since they could meet a half-made layout; their own enabled states are left alone.
-Tessel_Main::RunningCommandScope::RunningCommandScope(Form& form, Button button) : form_(form) {
-  form_.SetRunning(button);
-  form_.SetNotice("");
-}
+namespace {
 
-Tessel_Main::RunningCommandScope::~RunningCommandScope() {
-  form_.SetRunning(std::nullopt);
-}
+// Stands for the run of a command. Events come in meanwhile: the board and the frame of the solving
+// mode answer none of them, since they could meet a half-made layout; their own enabled states are
+// left alone.
+class RunningCommandScope {
+ public:
+  RunningCommandScope(Form& form, Button button) : form_(form) {
+    form_.SetRunning(button);
+    form_.SetNotice("");
+  }
+  RunningCommandScope(const RunningCommandScope&) = delete;
+  RunningCommandScope& operator=(const RunningCommandScope&) = delete;
+  ~RunningCommandScope() { form_.SetRunning(std::nullopt); }
 
-void Tessel_Main::CommandSaw_Click() {
+ private:
+  Form& form_;
+};
+
+}  // namespace
+
+GenerationCommands::GenerationCommands(GameState& state, Form& form, View& view, Clock& clock,
+                                       RandomSource& random, SystemCalls& system)
+    : state_(state), form_(form), view_(view), clock_(clock), random_(random), system_(system) {}
+
+void GenerationCommands::CommandSaw_Click() {
   form_.SetCaption(texts::kProgram);
   const RunningCommandScope scope(form_, Button::CommandSaw);
   ShowStage(form_, Stage::kSawing);
@@ -32,7 +46,7 @@ void Tessel_Main::CommandSaw_Click() {
   ShowStage(form_, Stage::kLayoutMade);
 }
 
-void Tessel_Main::RunSaw() {
+void GenerationCommands::RunSaw() {
   for (int cell = 0; cell < kCellCount; ++cell) {
     form_.SetCellText(cell, 0);
     form_.SetCellOpaque(cell, false);
@@ -49,7 +63,7 @@ void Tessel_Main::RunSaw() {
   ShowStageTime(state_, form_, "Sawed");
 }
 
-bool Tessel_Main::CanBeFilled(const Layout& layout) {
+bool GenerationCommands::CanBeFilled(const Layout& layout) {
   search_.Use(layout);
   WindowProgress progress(state_, view_);
   return FindsFillingWithinBudget(search_, progress);
@@ -57,7 +71,7 @@ bool Tessel_Main::CanBeFilled(const Layout& layout) {
 
 // A second click, on "Stop", comes in while the first one's handler is still at work and leaves the
 // rest to it.
-void Tessel_Main::CommandGo_Click() {
+void GenerationCommands::CommandGo_Click() {
   form_.SetCaption(texts::kProgram);
   if (form_.Running()) {
     state_.StopRequested = true;
@@ -70,11 +84,11 @@ void Tessel_Main::CommandGo_Click() {
   ShowStage(form_, RunFill() ? Stage::kGridFilled : Stage::kLayoutMade);
 }
 
-bool Tessel_Main::RunFill() {
+bool GenerationCommands::RunFill() {
   return Filling(state_, form_, view_, random_, clock_, search_).GenerateTessel();
 }
 
-void Tessel_Main::CommandConceal_Click() {
+void GenerationCommands::CommandConceal_Click() {
   form_.SetCaption(texts::kProgram);
   if (form_.Running()) {
     state_.StopRequested = true;
@@ -88,12 +102,12 @@ void Tessel_Main::CommandConceal_Click() {
   ShowStage(form_, concealed ? Stage::kPuzzleConcealed : Stage::kGridFilled);
 }
 
-bool Tessel_Main::RunConceal() {
+bool GenerationCommands::RunConceal() {
   return Concealing(state_, form_, view_, random_, clock_, search_).ConcealCells2ValidTessel();
 }
 
 // A puzzle that cannot be saved can be solved all the same; the foot of the window tells.
-void Tessel_Main::SaveTessel() {
+void GenerationCommands::SaveTessel() {
   for (int cell = 0; cell < kCellCount; ++cell) {
     state_.SavedPuzzle.Board[cell] = static_cast<std::uint8_t>(state_.Puzzle[cell]);
     state_.SavedPuzzle.Solution[cell] = static_cast<std::uint8_t>(state_.WorkGrid[cell]);

@@ -14,16 +14,16 @@ Tessel_Main::Tessel_Main(View& view, SoundPlayer& player, Clock& clock, RandomSo
       player_(player),
       clock_(clock),
       random_(random),
-      system_(system),
-      programFolder_(std::move(programFolder)),
       form_(view),
       sounds_(state_, player),
-      solving_(state_, form_, sounds_) {}
+      generation_(state_, form_, view, clock, random, system),
+      solving_(state_, form_, sounds_) {
+  state_.ProgramPath = std::move(programFolder);
+}
 
 void Tessel_Main::Form_Load() {
   view_.Show();
   player_.SetOwner(view_.WindowHandle());
-  state_.ProgramPath = programFolder_;
   const char separator = std::filesystem::path::preferred_separator;
   if (!state_.ProgramPath.ends_with(separator)) state_.ProgramPath += separator;
   sounds_.Init_Sound();
@@ -39,11 +39,11 @@ void Tessel_Main::Click(Button button) {
   if (!AcceptsInput(button)) return;
   switch (button) {
     case Button::CommandSaw:
-      return CommandSaw_Click();
+      return generation_.CommandSaw_Click();
     case Button::CommandGo:
-      return CommandGo_Click();
+      return generation_.CommandGo_Click();
     case Button::CommandConceal:
-      return CommandConceal_Click();
+      return generation_.CommandConceal_Click();
     case Button::CommandSolve:
       return solving_.CommandSolve_Click();
     case Button::CommandExit:

@@ -1,5 +1,6 @@
-// The main window's logic: start-up, the stage machine, solving mode. Front ends deliver every
-// event here and show what `form()` holds.
+// The main window's logic, as its gate: front ends deliver every event here and show what `form()`
+// holds. Events that come at a bad moment go no further; GenerationCommands, SolvingMode and
+// HintButton do what the others ask.
 #pragma once
 
 #include <string>
@@ -9,7 +10,7 @@
 #include "core/game_state.h"
 #include "core/random_source.h"
 #include "core/sounds.h"
-#include "search/exact_cover_search.h"
+#include "shell/generation_commands.h"
 #include "shell/solving_mode.h"
 #include "shell/system_calls.h"
 
@@ -41,29 +42,6 @@ class Tessel_Main {
  private:
   friend class StateProbe;  // of the tests
 
-  // Stands for the run of a generation command, which nothing else may disturb.
-  class RunningCommandScope {
-   public:
-    RunningCommandScope(Form& form, Button button);
-    RunningCommandScope(const RunningCommandScope&) = delete;
-    RunningCommandScope& operator=(const RunningCommandScope&) = delete;
-    ~RunningCommandScope();
-
-   private:
-    Form& form_;
-  };
-
-  // generation_commands.cpp
-  void CommandSaw_Click();
-  void CommandGo_Click();
-  void CommandConceal_Click();
-  void RunSaw();
-  bool CanBeFilled(const Layout& layout);
-  bool RunFill();     // whether it completed
-  bool RunConceal();  // likewise
-  void SaveTessel();
-
-  // tessel_main.cpp
   void CommandQuit_Click();
   void CommandExit_Click();
   void Command1_Click();
@@ -76,13 +54,11 @@ class Tessel_Main {
   SoundPlayer& player_;
   Clock& clock_;
   RandomSource& random_;
-  SystemCalls& system_;
-  std::string programFolder_;
   GameState state_;
   Form form_;
   Sounds sounds_;
+  GenerationCommands generation_;
   SolvingMode solving_;
-  ExactCoverSearch search_{Layout::Regular()};
   bool asking_ = false;  // a question is open
 };
 
