@@ -1,7 +1,9 @@
 // The bits of a mask, of digits, places or lines.
 #pragma once
 
+#include <array>
 #include <bit>
+#include <cstddef>
 #include <cstdint>
 
 #include "core/cell.h"
@@ -11,9 +13,20 @@ namespace tessel::grade {
 constexpr bool IsSingle(Mask mask) {
   return mask != 0 && (mask & (mask - 1)) == 0;
 }
+
+// Of the nine bits of a mask: a table is faster than the library's count, which has no instruction
+// for it on every processor.
+inline constexpr auto kBitCounts = [] {
+  std::array<std::uint8_t, kAllCandidates + 1> counts{};
+  for (std::size_t mask = 0; mask < counts.size(); ++mask) {
+    counts[mask] = static_cast<std::uint8_t>(std::popcount(mask));
+  }
+  return counts;
+}();
 constexpr int CountOf(Mask mask) {
-  return std::popcount(static_cast<unsigned>(mask));
+  return kBitCounts[static_cast<std::size_t>(mask)];
 }
+
 // The mask must not be empty.
 constexpr int LowestBit(Mask mask) {
   return std::countr_zero(static_cast<unsigned>(mask));

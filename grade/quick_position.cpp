@@ -4,60 +4,62 @@
 
 namespace tessel::grade {
 
-QuickPosition::QuickPosition(const Layout& layout, const Grid& givens) : layout_(layout) {
+QuickPosition::QuickPosition(const Layout& layout, const Grid& givens)
+    : layout_(layout), board_(givens) {
   for (auto& cages : written_) cages.fill(-1);
-  const std::span cages = layout.HousesOf(HouseKind::kCage);
-  for (const House& cage : cages) {
+  FollowCages();
+  AddAllCandidates();
+  // At first any house can have a digit's only place.
+  hiddenSingles_.fill((std::uint32_t{1} << 3 * kSide) - 1);
+}
+
+void QuickPosition::FollowCages() {
+  for (const House& cage : layout_.HousesOf(HouseKind::kCage)) {
     for (int k = 0; k < kSide; ++k) {
       bitInCage_[cage.cells[k]] = static_cast<Mask>(1 << k);
       cages_[cage.index] = cages_[cage.index] | CellSet::Of(cage.cells[k]);
     }
   }
+}
+
+void QuickPosition::AddAllCandidates() {
   std::array<Mask, 3 * kSide> used{};
   for (int cell = 0; cell < kCellCount; ++cell) {
-    if (givens[cell] == 0) continue;
-    board_[cell] = givens[cell];
-    written_[givens[cell] - 1][layout.CageOf(cell) - 1] = static_cast<std::int8_t>(cell);
-    for (const Seat& seat : SeatsOf(cell)) {
-      used[seat.house] = static_cast<Mask>(used[seat.house] | BitOf(givens[cell]));
-    }
+    const int digit = board_[cell];
+    if (digit == 0) continue;
+    written_[digit - 1][layout_.CageOf(cell) - 1] = static_cast<std::int8_t>(cell);
+    ForEachSeat(cell, [&](int house, Mask /*bit*/) {
+      used[house] = static_cast<Mask>(used[house] | BitOf(digit));
+    });
   }
   for (int cell = 0; cell < kCellCount; ++cell) {
-    if (givens[cell] != 0) continue;
-    candidates_[cell] = kAllCandidates;
-    for (const Seat& seat : SeatsOf(cell)) {
-      candidates_[cell] = Without(candidates_[cell], used[seat.house]);
-    }
-    AddCandidates(cell);
+    if (board_[cell] != 0) continue;
+    Mask candidates = kAllCandidates;
+    ForEachSeat(cell,
+                [&](int house, Mask /*bit*/) { candidates = Without(candidates, used[house]); });
+    AddCandidates(cell, candidates);
   }
-  for (auto& houses : hiddenSingles_) houses = (std::uint32_t{1} << 3 * kSide) - 1;
 }
 
-std::array<QuickPosition::Seat, 3> QuickPosition::SeatsOf(int cell) const {
-  return {Seat{RowOf(cell), static_cast<Mask>(1 << ColumnOf(cell))},
-          Seat{kSide + ColumnOf(cell), static_cast<Mask>(1 << RowOf(cell))},
-          Seat{2 * kSide + layout_.CageOf(cell) - 1, bitInCage_[cell]}};
-}
-
-void QuickPosition::AddCandidates(int cell) {
+void QuickPosition::AddCandidates(int cell, Mask candidates) {
   ++open_;
-  if (IsSingle(candidates_[cell])) nakedSingles_ = nakedSingles_ | CellSet::Of(cell);
-  ForEachBit(candidates_[cell], [&](int digit) {
+  candidates_[cell] = candidates;
+  if (IsSingle(candidates)) nakedSingles_ = nakedSingles_ | CellSet::Of(cell);
+  ForEachBit(candidates, [&](int digit) {
     cells_[digit] = cells_[digit] | CellSet::Of(cell);
-    for (const Seat& seat : SeatsOf(cell)) {
-      Mask& places = places_[digit][seat.house];
-      places = static_cast<Mask>(places | seat.bit);
-    }
+    ForEachSeat(cell, [&](int house, Mask bit) {
+      places_[digit][house] = static_cast<Mask>(places_[digit][house] | bit);
+    });
   });
 }
 
 void QuickPosition::TakeFromHouses(int cell, int digit) {
   cells_[digit] = cells_[digit] - CellSet::Of(cell);
-  for (const Seat& seat : SeatsOf(cell)) {
-    Mask& places = places_[digit][seat.house];
-    places = Without(places, seat.bit);
-    if (IsSingle(places)) hiddenSingles_[digit] |= std::uint32_t{1} << seat.house;
-  }
+  ForEachSeat(cell, [&](int house, Mask bit) {
+    Mask& places = places_[digit][house];
+    places = Without(places, bit);
+    hiddenSingles_[digit] |= std::uint32_t{IsSingle(places)} << house;
+  });
 }
 
 void QuickPosition::Remove(int cell, int digit) {

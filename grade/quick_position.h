@@ -52,14 +52,17 @@ class QuickPosition {
   int WrittenAt(int cage, int digit) const { return written_[digit][cage]; }
 
  private:
-  // A house of a cell and the bit of the cell in it.
-  struct Seat {
-    int house = 0;
-    Mask bit = 0;
-  };
+  // Calls `visit` with each house of the cell, and the bit of the cell in it.
+  template <typename Visit>
+  void ForEachSeat(int cell, const Visit& visit) const {
+    visit(RowOf(cell), static_cast<Mask>(1 << ColumnOf(cell)));
+    visit(kSide + ColumnOf(cell), static_cast<Mask>(1 << RowOf(cell)));
+    visit(2 * kSide + layout_.CageOf(cell) - 1, bitInCage_[cell]);
+  }
 
-  std::array<Seat, 3> SeatsOf(int cell) const;
-  void AddCandidates(int cell);
+  void FollowCages();
+  void AddAllCandidates();
+  void AddCandidates(int cell, Mask candidates);
   void Write(int cell, int digit);
   void TakeFromHouses(int cell, int digit);
   void Remove(int cell, int digit);
