@@ -6,13 +6,16 @@ namespace tessel::grade {
 
 namespace {
 
-Mask CandidatesAt(const Layout& layout, const Grid& givens, int cell) {
-  if (givens[cell] != 0) return 0;
-  Mask candidates = kAllCandidates;
-  ForEach(layout.PeersOf(cell), [&](int peer) {
-    if (givens[peer] != 0) candidates = Without(candidates, BitOf(givens[peer]));
-  });
-  return candidates;
+using DigitsInHouses = std::array<Mask, 3 * kSide>;
+
+DigitsInHouses DigitsIn(const Layout& layout, const Grid& givens) {
+  DigitsInHouses digits{};
+  for (std::size_t house = 0; house < digits.size(); ++house) {
+    int held = 0;
+    for (const int cell : layout.AllHouses()[house].cells) held |= 1 << givens[cell];
+    digits[house] = static_cast<Mask>(held >> 1);  // without the bit of the empty cells
+  }
+  return digits;
 }
 
 }  // namespace
@@ -22,9 +25,13 @@ bool CandidateGrid::Solved() const {
 }
 
 CandidateGrid StartOf(const Layout& layout, const Grid& givens) {
+  const DigitsInHouses held = DigitsIn(layout, givens);
   CandidateGrid start{givens, {}};
   for (int cell = 0; cell < kCellCount; ++cell) {
-    start.candidates[cell] = CandidatesAt(layout, givens, cell);
+    if (givens[cell] != 0) continue;
+    const int seen = held[RowOf(cell)] | held[kSide + ColumnOf(cell)] |
+                     held[2 * kSide + layout.CageOf(cell) - 1];
+    start.candidates[cell] = Without(kAllCandidates, static_cast<Mask>(seen));
   }
   return start;
 }

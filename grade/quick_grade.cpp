@@ -62,7 +62,7 @@ Removals RemovalsOf(StepKind kind, const QuickPosition& position) {
 }
 
 Grade GradeOf(const Layout& layout, const Grid& givens) {
-  QuickPosition position(layout, givens);
+  QuickPosition position(layout, StartOf(layout, givens));
   Grade grade;
   while (!position.Solved()) {
     if (TakeRound(position, grade)) continue;

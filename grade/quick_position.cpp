@@ -4,11 +4,17 @@
 
 namespace tessel::grade {
 
-QuickPosition::QuickPosition(const Layout& layout, const Grid& givens)
-    : layout_(layout), board_(givens) {
+QuickPosition::QuickPosition(const Layout& layout, const CandidateGrid& start)
+    : layout_(layout), board_(start.digits), candidates_(start.candidates) {
   for (auto& cages : written_) cages.fill(-1);
   FollowCages();
-  AddAllCandidates();
+  for (int cell = 0; cell < kCellCount; ++cell) {
+    if (board_[cell] == 0) {
+      AddCandidates(cell);
+    } else {
+      written_[board_[cell] - 1][layout.CageOf(cell) - 1] = static_cast<std::int8_t>(cell);
+    }
+  }
   // At first any house can have a digit's only place.
   hiddenSingles_.fill((std::uint32_t{1} << 3 * kSide) - 1);
 }
@@ -22,30 +28,10 @@ void QuickPosition::FollowCages() {
   }
 }
 
-void QuickPosition::AddAllCandidates() {
-  std::array<Mask, 3 * kSide> used{};
-  for (int cell = 0; cell < kCellCount; ++cell) {
-    const int digit = board_[cell];
-    if (digit == 0) continue;
-    written_[digit - 1][layout_.CageOf(cell) - 1] = static_cast<std::int8_t>(cell);
-    ForEachSeat(cell, [&](int house, Mask /*bit*/) {
-      used[house] = static_cast<Mask>(used[house] | BitOf(digit));
-    });
-  }
-  for (int cell = 0; cell < kCellCount; ++cell) {
-    if (board_[cell] != 0) continue;
-    Mask candidates = kAllCandidates;
-    ForEachSeat(cell,
-                [&](int house, Mask /*bit*/) { candidates = Without(candidates, used[house]); });
-    AddCandidates(cell, candidates);
-  }
-}
-
-void QuickPosition::AddCandidates(int cell, Mask candidates) {
+void QuickPosition::AddCandidates(int cell) {
   ++open_;
-  candidates_[cell] = candidates;
-  if (IsSingle(candidates)) nakedSingles_ = nakedSingles_ | CellSet::Of(cell);
-  ForEachBit(candidates, [&](int digit) {
+  if (IsSingle(candidates_[cell])) nakedSingles_ = nakedSingles_ | CellSet::Of(cell);
+  ForEachBit(candidates_[cell], [&](int digit) {
     cells_[digit] = cells_[digit] | CellSet::Of(cell);
     ForEachSeat(cell, [&](int house, Mask bit) {
       places_[digit][house] = static_cast<Mask>(places_[digit][house] | bit);

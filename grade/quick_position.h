@@ -31,7 +31,7 @@ struct Removals {
 class QuickPosition {
  public:
   // `layout` must outlive the position.
-  QuickPosition(const Layout& layout, const Grid& givens);
+  QuickPosition(const Layout& layout, const CandidateGrid& start);
 
   bool Solved() const { return open_ == 0; }
   CandidateGrid Value() const { return {board_, candidates_}; }
@@ -61,15 +61,14 @@ class QuickPosition {
   }
 
   void FollowCages();
-  void AddAllCandidates();
-  void AddCandidates(int cell, Mask candidates);
+  void AddCandidates(int cell);
   void Write(int cell, int digit);
   void TakeFromHouses(int cell, int digit);
   void Remove(int cell, int digit);
 
   const Layout& layout_;
-  Grid board_{};
-  MaskBoard candidates_{};
+  Grid board_;
+  MaskBoard candidates_;
   std::array<std::array<Mask, 3 * kSide>, kSide> places_{};
   std::array<CellSet, kSide> cells_{};
   std::array<CellSet, kSide> cages_{};

@@ -42,8 +42,7 @@ struct Removal {
 // hidden set     the house                           the only places              of these digits
 // leftovers      the lines, the cages                the lines' places, or the    the digit
 //                                                    cages' (`inLines` is false)
-// X-Wing, ...    the lines, the lines across them    the digit's places in the    the digit
-//                                                    first half of the houses
+// X-Wing, ...    the lines                           their places                 the digit
 struct Step {
   StepKind kind = StepKind::kNakedSingle;
   std::vector<HouseName> houses;

@@ -4,19 +4,17 @@
 #include <span>
 
 #include "grade/steps.h"
+#include "hints/technique.h"
 
 namespace tessel::grade {
 
 using Steps = std::vector<Step>;
 
-Steps NakedSingleSteps(const Layout& layout, const CandidateGrid& position);
-Steps HiddenSingleSteps(const Layout& layout, const CandidateGrid& position);
-Steps PointingSteps(const Layout& layout, const CandidateGrid& position);
-Steps ClaimingSteps(const Layout& layout, const CandidateGrid& position);
-// Naked and hidden pairs, triples and quads.
+// All hints of the technique, as steps of the kind.
+Steps HintSteps(StepKind kind, const Technique& technique, const Layout& layout,
+                const CandidateGrid& position);
+// Naked and hidden pairs and triples, and naked quads.
 Steps SetSteps(StepKind kind, const Layout& layout, const CandidateGrid& position);
-// `size` lines, 2 or 3.
-Steps FishSteps(int size, const Layout& layout, const CandidateGrid& position);
 
 // Removals of `digits` from those of `cells` that have some of them.
 std::vector<Removal> RemovalsOf(const CandidateGrid& position, CellSet cells, Mask digits);

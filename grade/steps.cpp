@@ -1,19 +1,23 @@
 #include "grade/steps.h"
 
 #include "grade/step_searches.h"
+#include "hints/ladder.h"
 
 namespace tessel::grade {
 
 Steps StepsOf(StepKind kind, const Layout& layout, const CandidateGrid& position) {
+  const auto from = [&](const Technique& technique) {
+    return HintSteps(kind, technique, layout, position);
+  };
   switch (kind) {
     case StepKind::kNakedSingle:
-      return NakedSingleSteps(layout, position);
+      return from(kNakedSingle);
     case StepKind::kHiddenSingle:
-      return HiddenSingleSteps(layout, position);
+      return from(kHiddenSingle);
     case StepKind::kPointing:
-      return PointingSteps(layout, position);
+      return from(kPointingPair);
     case StepKind::kClaiming:
-      return ClaimingSteps(layout, position);
+      return from(kBoxLine);
     case StepKind::kNakedPair:
     case StepKind::kHiddenPair:
     case StepKind::kNakedTriple:
@@ -27,9 +31,9 @@ Steps StepsOf(StepKind kind, const Layout& layout, const CandidateGrid& position
     case StepKind::kFourLineLeftovers:
       return LeftoverSteps(4, layout, position);
     case StepKind::kXWing:
-      return FishSteps(2, layout, position);
+      return from(kXWing);
     case StepKind::kSwordFish:
-      return FishSteps(3, layout, position);
+      return from(kSwordFish);
   }
   return {};
 }

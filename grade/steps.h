@@ -1,9 +1,10 @@
 // Every step of a kind that a position offers.
 //
-// The patterns are those of the hint ladder, whose own searches stop at the first one; the tests
-// compare the two. The ladder's narrow view is kept: a naked set counts when a digit that all its
-// cells hold can be removed somewhere, a fish when its lines have exactly the same places, and
-// hidden quads are not looked for.
+// But for the Law of Leftovers the patterns are those of the hint ladder, found by its own
+// searches, so that the hint button can name every other step that a grade counts. Its narrow view
+// is kept: a naked set counts when a digit that all its cells hold can be removed somewhere, a fish
+// when its lines have exactly the same places, and hidden quads are not looked for. Quints are left
+// out: the ladder's own compares five cells with four digits and never finds any.
 //
 // Two of its patterns can be one step. In a house with u open cells, a naked set of k cells and the
 // hidden set of the other u - k digits remove the same candidates: this is one step of size

@@ -1,4 +1,4 @@
-// Steps between cages and lines: pointing, claiming and the Law of Leftovers.
+// The Law of Leftovers.
 #include <bit>
 
 #include "grade/step_searches.h"
@@ -7,41 +7,8 @@ namespace tessel::grade {
 
 namespace {
 
-CellSet LinesThrough(const Layout& layout, int cell) {
-  return CellsOf(layout.HousesOf(HouseKind::kRow)[RowOf(cell)]) |
-         CellsOf(layout.HousesOf(HouseKind::kColumn)[ColumnOf(cell)]);
-}
-
-// The cells that share a row or a column with each of `cells`.
-CellSet SeenByAll(const Layout& layout, CellSet cells) {
-  CellSet seen = kAllCells;
-  ForEach(cells, [&](int cell) { seen = seen & LinesThrough(layout, cell); });
-  return seen;
-}
-
 void AddIfUseful(Steps& steps, Step step) {
   if (!step.removals.empty()) steps.push_back(std::move(step));
-}
-
-Step PointingStep(const Layout& layout, const CandidateGrid& position, const House& cage,
-                  int digit) {
-  const CellSet places = CandidatesOf(position, digit) & CellsOf(cage);
-  Step step{StepKind::kPointing, {HouseNameOf(cage)}, places, BitOf(digit)};
-  if (places.Empty()) return step;
-  step.removals = RemovalsOf(position, SeenByAll(layout, places) - CellsOf(cage), BitOf(digit));
-  return step;
-}
-
-Step ClaimingStep(const Layout& layout, const CandidateGrid& position, const House& line,
-                  int digit) {
-  const CellSet places = CandidatesOf(position, digit) & CellsOf(line);
-  Step step{StepKind::kClaiming, {HouseNameOf(line)}, places, BitOf(digit)};
-  if (places.Empty()) return step;
-  const House& cage = layout.HousesOf(HouseKind::kCage)[layout.CageOf(places.First()) - 1];
-  step.houses.push_back(HouseNameOf(cage));
-  if (!(places - CellsOf(cage)).Empty()) return step;
-  step.removals = RemovalsOf(position, CellsOf(cage) - CellsOf(line), BitOf(digit));
-  return step;
 }
 
 // `count` adjacent lines and as many cages.
@@ -107,28 +74,6 @@ void AddLeftoversOfBand(Steps& steps, const Layout& layout, const CandidateGrid&
 }
 
 }  // namespace
-
-Steps PointingSteps(const Layout& layout, const CandidateGrid& position) {
-  Steps steps;
-  for (int digit = 1; digit <= kSide; ++digit) {
-    for (const House& cage : layout.HousesOf(HouseKind::kCage)) {
-      AddIfUseful(steps, PointingStep(layout, position, cage, digit));
-    }
-  }
-  return steps;
-}
-
-Steps ClaimingSteps(const Layout& layout, const CandidateGrid& position) {
-  Steps steps;
-  for (const HouseKind kind : kLineKinds) {
-    for (const House& line : layout.HousesOf(kind)) {
-      for (int digit = 1; digit <= kSide; ++digit) {
-        AddIfUseful(steps, ClaimingStep(layout, position, line, digit));
-      }
-    }
-  }
-  return steps;
-}
 
 Steps LeftoverSteps(int lines, const Layout& layout, const CandidateGrid& position) {
   Steps steps;
