@@ -32,9 +32,7 @@ class PuzzleMaker {
   Puzzle Filled(bench::LayoutKind kind, RandomStream& random) {
     while (true) {
       engine_.SawAnyLayout(kind, random.Next());
-      CageNumbers cages{};
-      std::ranges::copy(engine_.state.CageOfCell, cages.begin());
-      const Layout layout = Layout::FromCages(cages).value();
+      const Layout& layout = engine_.layout;
       solver_.Use(layout);
       const solver::Filling filling = solver_.Fill(random, kMostNodes);
       if (filling.answer == solver::Answer::kYes) return {layout, {}, filling.grid};
