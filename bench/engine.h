@@ -7,6 +7,7 @@
 #include "search/conceal.h"
 #include "search/fill.h"
 #include "search/random_restarts.h"
+#include "solver/solver.h"
 
 namespace tessel::bench {
 
@@ -31,10 +32,7 @@ class Engine {
   }
   // The Saw command's work: layouts are sawn until one can be filled.
   void SawFillableLayout(LayoutKind kind, std::uint64_t seed) {
-    SawLayout(kind, seed, [this](const Layout& sawn) {
-      search.Use(sawn);
-      return FindsFillingWithinBudget(search, progress);
-    });
+    SawLayout(kind, seed, solver::CanBeFilled);
   }
   // Leaves the filling of the layout in `solution`.
   void FillLayout(std::uint64_t seed) {

@@ -1,12 +1,12 @@
-// one_puzzle SEED: makes a puzzle with nothing but core, layout and search, and prints its givens
-// and the cage of each cell.
+// one_puzzle SEED: makes a puzzle with nothing but core, layout, search and solver, and prints its
+// givens and the cage of each cell.
 #include <cstdio>
 #include <cstdlib>
 
 #include "layout/cage_generator.h"
 #include "search/conceal.h"
 #include "search/fill.h"
-#include "search/random_restarts.h"
+#include "solver/solver.h"
 
 namespace {
 
@@ -21,12 +21,7 @@ int main(int argc, char** argv) {
   using namespace tessel;
   if (argc != 2) return EXIT_FAILURE;
   SeededRandom random(std::strtoull(argv[1], nullptr, 10));
-  ExactCoverSearch search(Layout::Regular());
-  const auto canBeFilled = [&search](const Layout& sawn) {
-    search.Use(sawn);
-    return FindsFillingWithinBudget(search);
-  };
-  const Layout layout = Saw(LayoutSymmetry::kNone, random, canBeFilled).value();
+  const Layout layout = Saw(LayoutSymmetry::kNone, random, solver::CanBeFilled).value();
   const Grid solution = Fill(layout, random).value();
   const Grid givens = Conceal(layout, solution, ConcealMode::kSingle, random).value();
   Print(givens, ' ');

@@ -53,10 +53,4 @@ void RandomRestarts::DrawOrder() {
   }
 }
 
-bool FindsFillingWithinBudget(ExactCoverSearch& search, Progress& progress) {
-  SeededRandom random;
-  RandomRestarts restarts(search, random, progress);
-  return restarts.Run(kRestartBudget) == RandomRestarts::Result::kFilled;
-}
-
 }  // namespace tessel

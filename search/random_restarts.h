@@ -24,11 +24,6 @@ namespace tessel {
 //   20,000    75,700 1,047,000
 inline constexpr std::int64_t kRestartCutoff = 500;
 
-// A layout for which all tries together found no filling within this many iterations is taken to
-// have none. Of 20,000 random layouts 372 went beyond it, and all but 17 of these have none
-// (`bench_limits`).
-inline constexpr std::int64_t kRestartBudget = 400'000;
-
 class RandomRestarts {
  public:
   enum class Result : std::uint8_t {
@@ -56,9 +51,5 @@ class RandomRestarts {
   Progress& progress_;
   CellOrder order_{};
 };
-
-// Whether a filling of the search's layout is found within kRestartBudget. The answer depends on
-// the layout alone: the orders are drawn from a fixed seed. False when `progress` asks to stop.
-bool FindsFillingWithinBudget(ExactCoverSearch& search, Progress& progress = Unwatched());
 
 }  // namespace tessel

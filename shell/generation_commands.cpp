@@ -1,7 +1,6 @@
 #include "shell/generation_commands.h"
 
 #include "core/texts.h"
-#include "search/random_restarts.h"
 #include "shell/concealing.h"
 #include "shell/filling.h"
 #include "shell/puzzle_file.h"
@@ -10,6 +9,7 @@
 #include "shell/stage.h"
 #include "shell/stage_time.h"
 #include "shell/window_progress.h"
+#include "solver/solver.h"
 
 namespace tessel {
 
@@ -53,20 +53,13 @@ void GenerationCommands::RunSaw() {
     form_.SetMarksColour(cell, kBlack);
   }
   StartStopwatch(state_, clock_);
-  Sawing sawing(state_, form_, view_, random_, clock_,
-                [this](const Layout& layout) { return CanBeFilled(layout); });
+  Sawing sawing(state_, form_, view_, random_, clock_, solver::CanBeFilled);
   if (form_.Checked(CheckBox::MakeRegular)) {
     sawing.BuildRegularLayout();
   } else {
     sawing.BuildTesselPattern();
   }
   ShowStageTime(state_, form_, "Sawed");
-}
-
-bool GenerationCommands::CanBeFilled(const Layout& layout) {
-  search_.Use(layout);
-  WindowProgress progress(state_, view_);
-  return FindsFillingWithinBudget(search_, progress);
 }
 
 // A second click, on "Stop", comes in while the first one's handler is still at work and leaves the

@@ -24,7 +24,6 @@ class GenerationCommands {
 
  private:
   void RunSaw();
-  bool CanBeFilled(const Layout& layout);
   bool RunFill();     // whether it completed
   bool RunConceal();  // likewise
   void SaveTessel();

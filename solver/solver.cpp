@@ -52,6 +52,7 @@ Solver& Solver::operator=(Solver&&) noexcept = default;
 
 void Solver::Use(const Layout& layout) {
   std::construct_at(tables_.get(), layout);
+  std::ranges::fill(work_->unlocked, Places{});  // which says nothing about another layout
 }
 
 std::vector<Grid> Solver::Completions(const Grid& givens, int most) {
@@ -99,6 +100,10 @@ Filling Solver::Fill(RandomStream& random, std::uint64_t mostNodes) {
       if (nodes == mostNodes) return {Answer::kUnknown, {}, nodes};
     }
   }
+}
+
+bool CanBeFilled(const Layout& layout) {
+  return Solver(layout).FillWithin(kSawnNodes).answer == Answer::kYes;
 }
 
 void Solver::GiveAll(const Grid& solution) {

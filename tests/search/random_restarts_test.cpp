@@ -15,10 +15,8 @@ using oracle::SampleLayout;
 
 #ifdef __SANITIZE_ADDRESS__
 constexpr std::uint64_t kSeeds = 9;
-constexpr std::array<std::uint64_t, 1> kUnfillable{9};
 #else
 constexpr std::uint64_t kSeeds = 300;
-constexpr std::array<std::uint64_t, 5> kUnfillable{9, 198, 405, 508, 605};
 #endif
 
 constexpr auto kRandom = LiteralLayout::Mode::kRandom;
@@ -76,38 +74,6 @@ TEST_F(RandomRestartsTest, SearchWithoutASolutionIsExhausted) {
   for (int cell = 0; cell < 4; ++cell) rig.Top().Candidates[cell] = 0b111;  // of one row
   EXPECT_EQ(rig.search.Run(driver), SearchResult::kExhausted);
   EXPECT_EQ(rig.probe.Depth(), 0u);
-}
-
-void ExpectRightAnswer(SearchRig& rig, const oracle::Layout& layout) {
-  rig.Use(layout);
-  const bool admits = FindsFillingWithinBudget(rig.search, rig.progress);
-  EXPECT_EQ(IndependentSolver(layout).HasFilling(2'000'000), admits);
-}
-
-TEST_F(RandomRestartsTest, FillingIsFoundExactlyWhenThereIsOne) {
-  for (std::uint64_t seed = 0; seed < kSeeds; ++seed) {
-    SCOPED_TRACE(seed);
-    ExpectRightAnswer(rig, SampleLayout(seed, kRandom));
-    ExpectRightAnswer(rig, SampleLayout(seed, kRotational));
-  }
-}
-
-TEST_F(RandomRestartsTest, LayoutsWithoutAFillingAreRefused) {
-  for (const std::uint64_t seed : kUnfillable) {
-    SCOPED_TRACE(seed);
-    ExpectRightAnswer(rig, SampleLayout(seed, kRandom));
-    EXPECT_FALSE(FindsFillingWithinBudget(rig.search, rig.progress));
-  }
-}
-
-TEST_F(RandomRestartsTest, AnswerDependsOnTheLayoutAlone) {
-  const float next = SeededRandom(77).Next();
-  rig.random.Seed(77);
-  EXPECT_TRUE(FindsFillingWithinBudget(rig.search, rig.progress));
-  EXPECT_EQ(rig.random.Next(), next);
-  const auto iterations = rig.search.Iterations();
-  EXPECT_TRUE(FindsFillingWithinBudget(rig.search, rig.progress));
-  EXPECT_EQ(rig.search.Iterations(), 2 * iterations);
 }
 
 }  // namespace

@@ -59,5 +59,34 @@ TEST_P(FillLayout, GivesUpAfterTheNodesAllowed) {
   EXPECT_EQ(filling.grid, Grid{});
 }
 
+TEST(CanBeFilled, SawnLayoutsWithoutAFillingAreRefused) {
+  for (const std::uint64_t seed : {9U, 198U, 405U, 508U, 605U}) {
+    const auto sawn = oracle::SampleLayout(seed, oracle::LiteralLayout::Mode::kRandom);
+    EXPECT_FALSE(CanBeFilled(Layout::FromCages(GridOf(sawn.cageOfCell)).value())) << seed;
+    EXPECT_EQ(IndependentSolver(sawn).HasFilling(1'000'000), false) << seed;
+  }
+}
+
+TEST(CanBeFilled, IsSoExactlyWhenThereIsAFilling) {
+  for (std::uint64_t seed = 0; seed < kLayouts; ++seed) {
+    const Layout layout = SampleLayout(seed);
+    const auto expected = IndependentSolver(OracleLayoutOf(layout)).HasFilling(1'000'000);
+    EXPECT_EQ(CanBeFilled(layout), expected) << seed;
+  }
+}
+
+// A layout used before leaves nothing behind that changes an answer.
+TEST(SolverUse, ForgetsTheLayoutBefore) {
+  Solver used(Layout::Regular());
+  for (std::uint64_t seed = 0; seed < kLayouts; ++seed) {
+    const Layout layout = SampleLayout(seed);
+    used.Use(layout);
+    const Filling fresh = Solver(layout).FillWithin(1000);
+    const Filling filling = used.FillWithin(1000);
+    EXPECT_EQ(filling.nodes, fresh.nodes) << seed;
+    EXPECT_EQ(filling.grid, fresh.grid) << seed;
+  }
+}
+
 }  // namespace
 }  // namespace tessel::solver
