@@ -38,7 +38,8 @@ forbid() {
     fail "^ $2"
   fi
 }
-forbid 'getenv|environ\b|qEnvironmentVariable|qgetenv' 'no setting is read from the environment'
+forbid 'getenv|environ\b|qEnvironmentVariable|qgetenv' 'no setting is read from the environment but where its user keeps data' \
+  'shell/puzzle_folder\.cpp'
 forbid 'sys/socket|netinet|QTcp|QUdp|QLocalS|QNetwork' 'the program has nothing to do with a network'
 forbid 'ofstream|fopen|freopen|mkstemp|QSaveFile|QSettings|QTemporary|WriteOnly|ReadWrite|Append\)' \
   'no file is written but the puzzle file'

@@ -1,9 +1,12 @@
 #include "shell/generation_commands.h"
 
+#include <utility>
+
 #include "core/texts.h"
 #include "shell/concealing.h"
 #include "shell/filling.h"
 #include "shell/puzzle_file.h"
+#include "shell/puzzle_folder.h"
 #include "shell/puzzle_saver.h"
 #include "shell/sawing.h"
 #include "shell/stage.h"
@@ -35,8 +38,15 @@ class RunningCommandScope {
 }  // namespace
 
 GenerationCommands::GenerationCommands(GameState& state, Form& form, View& view, Clock& clock,
-                                       RandomSource& random, SystemCalls& system)
-    : state_(state), form_(form), view_(view), clock_(clock), random_(random), system_(system) {}
+                                       RandomSource& random, SystemCalls& system,
+                                       std::optional<std::string> userFolder)
+    : state_(state),
+      form_(form),
+      view_(view),
+      clock_(clock),
+      random_(random),
+      system_(system),
+      userFolder_(std::move(userFolder)) {}
 
 void GenerationCommands::CommandSaw_Click() {
   form_.SetCaption(texts::kProgram);
@@ -106,7 +116,9 @@ void GenerationCommands::SaveTessel() {
     state_.SavedPuzzle.Solution[cell] = static_cast<std::uint8_t>(state_.WorkGrid[cell]);
     state_.SavedPuzzle.CageMap[cell] = static_cast<std::uint8_t>(state_.CageOfCell[cell]);
   }
-  const std::string path = state_.ProgramPath + kPuzzleFileName;
+  const std::string folder = PuzzleFolder(state_.ProgramPath, userFolder_, system_);
+  if (folder != state_.ProgramPath) MakeFolder(folder, system_);
+  const std::string path = folder + kPuzzleFileName;
   const auto letWindowAnswer = [this] { view_.PumpEventsNow(); };
   if (const auto error = SavePuzzle(path, state_.SavedPuzzle, system_, letWindowAnswer)) {
     form_.SetNotice("The puzzle could not be saved to " + path + ": " + *error);

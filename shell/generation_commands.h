@@ -1,6 +1,9 @@
 // Saw, Fill and Conceal: their clicks, the stages that they lead to, and the saved puzzle.
 #pragma once
 
+#include <optional>
+#include <string>
+
 #include "core/clock.h"
 #include "core/form.h"
 #include "core/game_state.h"
@@ -14,7 +17,7 @@ namespace tessel {
 class GenerationCommands {
  public:
   GenerationCommands(GameState& state, Form& form, View& view, Clock& clock, RandomSource& random,
-                     SystemCalls& system);
+                     SystemCalls& system, std::optional<std::string> userFolder);
 
   // Each returns when its work is done or has been stopped, and lets events in until then. A click
   // that comes in meanwhile stops the work, where it can be stopped.
@@ -34,6 +37,7 @@ class GenerationCommands {
   Clock& clock_;
   RandomSource& random_;
   SystemCalls& system_;
+  std::optional<std::string> userFolder_;  // for puzzles that cannot be saved beside the program
   ExactCoverSearch search_{Layout::Regular()};
 };
 

@@ -9,6 +9,14 @@
 
 namespace tessel {
 
+int PosixCalls::Access(const char* path, int mode) {
+  return faccessat(AT_FDCWD, path, mode, AT_EACCESS);
+}
+
+int PosixCalls::Mkdir(const char* path, mode_t mode) {
+  return mkdir(path, mode);
+}
+
 int PosixCalls::Open(const char* path, int flags, mode_t mode) {
   return open(path, flags, mode);
 }

@@ -16,6 +16,8 @@ class SystemCalls {
  public:
   virtual ~SystemCalls() = default;
 
+  virtual int Access(const char* path, int mode) = 0;  // with the effective rights
+  virtual int Mkdir(const char* path, mode_t mode) = 0;
   virtual int Open(const char* path, int flags, mode_t mode) = 0;
   virtual int Flock(int file, int operation) = 0;
   virtual int Fstat(int file, struct stat* status) = 0;
@@ -34,6 +36,8 @@ class SystemCalls {
 
 class PosixCalls : public SystemCalls {
  public:
+  int Access(const char* path, int mode) override;
+  int Mkdir(const char* path, mode_t mode) override;
   int Open(const char* path, int flags, mode_t mode) override;
   int Flock(int file, int operation) override;
   int Fstat(int file, struct stat* status) override;

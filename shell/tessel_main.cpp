@@ -9,14 +9,15 @@
 namespace tessel {
 
 Tessel_Main::Tessel_Main(View& view, SoundPlayer& player, Clock& clock, RandomSource& random,
-                         std::string programFolder, SystemCalls& system)
+                         std::string programFolder, SystemCalls& system,
+                         std::optional<std::string> userFolder)
     : view_(view),
       player_(player),
       clock_(clock),
       random_(random),
       form_(view),
       sounds_(state_, player),
-      generation_(state_, form_, view, clock, random, system),
+      generation_(state_, form_, view, clock, random, system, std::move(userFolder)),
       solving_(state_, form_, sounds_) {
   state_.ProgramPath = std::move(programFolder);
 }

@@ -3,6 +3,7 @@
 // HintButton do what the others ask.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "core/cell_click.h"
@@ -18,9 +19,11 @@ namespace tessel {
 
 class Tessel_Main {
  public:
-  // `programFolder` is where the sounds lie and the puzzle file is written.
+  // `programFolder` is where the sounds lie and puzzles are saved; in `userFolder` where they
+  // cannot be saved there.
   Tessel_Main(View& view, SoundPlayer& player, Clock& clock, RandomSource& random,
-              std::string programFolder, SystemCalls& system = RealSystemCalls());
+              std::string programFolder, SystemCalls& system = RealSystemCalls(),
+              std::optional<std::string> userFolder = std::nullopt);
 
   // Start-up; call it once, before any event.
   void Form_Load();

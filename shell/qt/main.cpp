@@ -5,9 +5,12 @@
 #include <cstdio>
 #include <cstdlib>
 #include <string>
+#include <string_view>
 
 #include "core/random_source.h"
+#include "core/version.h"
 #include "shell/program_folder.h"
+#include "shell/puzzle_folder.h"
 #include "shell/qt/qt_sound_player.h"
 #include "shell/qt/system_clock.h"
 #include "shell/qt/tessel_window.h"
@@ -35,13 +38,17 @@ void FailInOneLine(QtMsgType type, const QMessageLogContext&, const QString& mes
 
 }  // namespace
 
-int main(int, char** argv) {
+int main(int given, char** argv) {
+  if (given == 2 && std::string_view(argv[1]) == "--version") {
+    std::printf("tessel-sudoku %s\n", tessel::Version());
+    return EXIT_SUCCESS;
+  }
   signal(SIGXFSZ, SIG_IGN);  // a file that would grow too large is a failed write, told as such
   const auto folder = tessel::ProgramFolder();
   if (!folder) Fail("cannot tell the folder that it lies in");
   tessel::QtSoundPlayer player;
 
-  int argumentCount = 1;  // the program has no command line, and Qt must not read one either
+  int argumentCount = 1;  // there is no other command line, and Qt must not read one either
   const QtMessageHandler usual = qInstallMessageHandler(FailInOneLine);
   QApplication application(argumentCount, argv);
   qInstallMessageHandler(usual);
@@ -51,7 +58,8 @@ int main(int, char** argv) {
   tessel::TesselWindow window;
   tessel::SystemClock clock;
   tessel::SeededRandom random;
-  tessel::Tessel_Main logic(window, player, clock, random, *folder);
+  tessel::Tessel_Main logic(window, player, clock, random, *folder, tessel::RealSystemCalls(),
+                            tessel::UserDataFolder());
   window.Attach(logic);
   logic.Form_Load();
   return QApplication::exec();

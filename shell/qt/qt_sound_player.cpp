@@ -8,6 +8,7 @@
 #include <array>
 #include <cstdlib>
 
+#include "shell/puzzle_folder.h"
 #include "shell/qt/sound_file.h"
 #include "shell/qt/sound_process.h"
 
@@ -56,7 +57,8 @@ QtSoundPlayer::~QtSoundPlayer() {
 }
 
 std::int32_t QtSoundPlayer::Load(const std::string& path) {
-  if (!IsSoundFile(path) || !Send(kLoadOrder + path)) return -1;
+  const std::string file = InstalledFile(path);
+  if (!IsSoundFile(file) || !Send(kLoadOrder + file)) return -1;
   return count_++;
 }
 

@@ -63,15 +63,47 @@ class BadSurroundings : public testing::Test {
   TemporaryFolder folder_;
 };
 
-TEST_F(BadSurroundings, FolderIsReadOnly) {
+// A user who may not write into the folder, and has no other.
+Launch AsHomelessReader(const std::filesystem::path& folder) {
   const auto readable = std::filesystem::perms::owner_read | std::filesystem::perms::owner_exec |
                         std::filesystem::perms::others_read | std::filesystem::perms::others_exec;
-  std::filesystem::permissions(folder_.Path(), readable);
+  std::filesystem::permissions(folder, readable);
   Launch launch;
   launch.asNobody = geteuid() == 0;  // root may write everywhere
-  User user(folder_.Path(), launch);
+  launch.environment.remove("HOME");
+  launch.environment.remove("XDG_DATA_HOME");
+  return launch;
+}
+
+TEST_F(BadSurroundings, FolderIsReadOnlyAndThereIsNoHome) {
+  User user(folder_.Path(), AsHomelessReader(folder_.Path()));
   ExpectNotSaved(user, folder_.PuzzleFile(), "Permission denied");
   EXPECT_FALSE(std::filesystem::exists(folder_.PuzzleFile()));
+}
+
+TEST_F(BadSurroundings, FolderIsReadOnlyButTheUserHasOne) {
+  const TemporaryFolder home;
+  std::filesystem::permissions(home.Path(), std::filesystem::perms::all);
+  Launch launch = AsHomelessReader(folder_.Path());
+  launch.environment.insert("XDG_DATA_HOME", "not/absolute");
+  launch.environment.insert("HOME", QString::fromStdString(home.Path().string()));
+  User user(folder_.Path(), launch);
+  ASSERT_TRUE(user.MakesPuzzle());
+  EXPECT_TRUE(user.SeesText("Notice", ""));
+  const std::filesystem::path data = home.Path() / ".local/share/tessel-sudoku";
+  EXPECT_EQ(std::filesystem::status(data).permissions(), std::filesystem::perms::owner_all);
+  EXPECT_EQ(std::filesystem::file_size(data / "Tessel_Sudoku.sds"), kRecordSize);
+  EXPECT_FALSE(std::filesystem::exists(folder_.PuzzleFile()));
+}
+
+TEST_F(BadSurroundings, FolderIsReadOnlyAndTheDataFolderIsAFile) {
+  const TemporaryFolder home;
+  std::ofstream(home.Path() / "data") << "taken";
+  Launch launch = AsHomelessReader(folder_.Path());
+  const std::filesystem::path data = home.Path() / "data";
+  launch.environment.insert("XDG_DATA_HOME", QString::fromStdString(data.string()));
+  User user(folder_.Path(), launch);
+  ExpectNotSaved(user, data / "tessel-sudoku/Tessel_Sudoku.sds", "Not a directory");
 }
 
 TEST_F(BadSurroundings, DiskIsFull) {

@@ -15,6 +15,7 @@
 namespace tessel {
 
 enum class SystemCall : std::uint8_t {
+  kAccess,
   kOpen,
   kFlock,
   kFstat,
@@ -30,6 +31,9 @@ class FakeSystemCalls : public PosixCalls {
   // The next `times` calls of this kind fail with `error`.
   void Fail(SystemCall call, int error, int times = 1) { failures_[call] = {error, times}; }
 
+  int Access(const char* path, int mode) override {
+    return Fails(SystemCall::kAccess) ? -1 : PosixCalls::Access(path, mode);
+  }
   int Open(const char* path, int flags, mode_t mode) override {
     return Fails(SystemCall::kOpen) ? -1 : PosixCalls::Open(path, flags, mode);
   }
