@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <initializer_list>
 #include <span>
 #include <string>
 #include <string_view>
@@ -56,6 +57,9 @@ class Details {
   unsigned bits_ = 0;
 };
 
+// What is told of this puzzle.
+Details DetailsOf(const DescribedPuzzle& puzzle);
+
 struct Format {
   std::string_view name;     // as it is asked for: "f-puzzles"
   std::string_view summary;  // a line of help
@@ -63,7 +67,8 @@ struct Format {
   bool (*looksLike)(std::string_view record);  // nullptr: the format is only written
   Reading (*read)(std::string_view record);    // nullptr: the format is only written
   Writing (*write)(const DescribedPuzzle& puzzle);
-  std::string_view header;  // what stands once before all records
+  std::string_view header{};  // what stands once before all records
+  bool onePuzzleAFile = false;
 
   bool IsRead() const { return read != nullptr; }
 };

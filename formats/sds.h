@@ -12,6 +12,7 @@
 
 namespace tessel::formats {
 
+inline constexpr std::string_view kSdsName = "sds";
 inline constexpr std::size_t kSdsRecordSize = 3 * kCellCount;
 
 // Whether a file that begins with these bytes is one of records: it holds bytes that no text has.

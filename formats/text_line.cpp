@@ -1,26 +1,22 @@
 #include "formats/text_line.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "formats/cell_text.h"
 
 namespace tessel::formats {
 
-namespace {
-
-bool IsCellText(char character) {
-  return std::string_view("123456789.0").find(character) != std::string_view::npos;
-}
-
-}  // namespace
-
-// Two groups, or one that is too long for givens alone; bad characters are the reader's to tell.
+// More than givens alone, most of the first 81 characters digits and empty marks: which of them are
+// none is the reader's to tell. Game IDs of Solo hold many digits, too.
 bool LooksLikeTextLine(std::string_view line) {
-  const std::size_t start = SkipSpace(line, 0);
-  const auto significant = std::ranges::count_if(line, [](char c) {
+  std::string significant;
+  std::ranges::copy_if(line, std::back_inserter(significant), [](char c) {
     return SkipSpace({&c, 1}, 0) == 0;
   });
-  return significant > kCellCount && IsCellText(line[start]);
+  if (significant.size() <= kCellCount || significant.starts_with("9j")) return false;
+  const auto isCell = [](char c) { return c == '.' || (c >= '0' && c <= '9'); };
+  return 2 * std::ranges::count_if(significant.substr(0, kCellCount), isCell) > kCellCount;
 }
 
 Reading ReadTextLine(std::string_view line) {

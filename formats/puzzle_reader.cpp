@@ -1,0 +1,138 @@
+#include "formats/puzzle_reader.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "formats/cell_text.h"
+#include "formats/sds.h"
+
+namespace tessel::formats {
+
+namespace {
+
+constexpr std::size_t kPieceBytes = std::size_t{1} << 16;
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+std::string Beginning(std::string_view line) {
+  constexpr std::size_t most = 20;
+  std::string shown;
+  for (const char character : line.substr(0, most)) {
+    if (character < ' ' || character > '~')
+      return shown.empty() ? Shown(character) : "'" + shown + "'";
+    shown += character;
+  }
+  return "'" + shown + (line.size() > most ? "...'" : "'");
+}
+
+const Format* FormatLike(std::string_view line) {
+  for (const Format& format : AllFormats()) {
+    if (format.IsRead() && format.name != kSdsName && format.looksLike(line)) return &format;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+std::string Place::Text() const {
+  return (isRecord ? "record " : "") + std::to_string(number);
+}
+
+std::string LocatedFault::Message(const std::string& file) const {
+  return file + ":" + place.Text() + (place.isRecord ? ", byte " : ":") +
+         std::to_string(fault.offset + 1) + ": " + (fault.place.empty() ? "" : fault.place + ": ") +
+         "expected " + fault.expected + ", found " + fault.found;
+}
+
+PuzzleReader::PuzzleReader(ByteSource source, const Format* format)
+    : source_(std::move(source)), format_(format) {}
+
+PuzzleReader::Result PuzzleReader::Next() {
+  if (!std::exchange(recognised_, true)) Recognise();
+  return place_.isRecord ? NextRecord() : NextLine();
+}
+
+void PuzzleReader::Recognise() {
+  Need(kSdsRecordSize);
+  place_.isRecord = format_ != nullptr ? format_->name == kSdsName : LooksLikeSds(AtHand());
+  if (!place_.isRecord && AtHand().starts_with(kByteOrderMark)) start_ += kByteOrderMark.size();
+}
+
+PuzzleReader::Result PuzzleReader::NextRecord() {
+  Need(kSdsRecordSize);
+  const std::string_view record = AtHand().substr(0, kSdsRecordSize);
+  if (record.empty()) return std::nullopt;
+  ++place_.number;
+  start_ += record.size();
+  return Located(ReadSds(record));
+}
+
+PuzzleReader::Result PuzzleReader::NextLine() {
+  while (true) {
+    const std::size_t size = LineSize();
+    if (size == 0) return std::nullopt;
+    ++place_.number;
+    const std::string_view line = AtHand().substr(0, size);
+    start_ += size;
+    const std::size_t first = SkipSpace(line, 0);
+    if (first < size && line[first] != '#') {
+      Reading reading = ReadLine(line.substr(0, line.find_last_not_of("\r\n") + 1));
+      if (size > kMostLineBytes) SkipRestOfLine();
+      return Located(std::move(reading));
+    }
+    if (size > kMostLineBytes) SkipRestOfLine();
+  }
+}
+
+PuzzleReader::Result PuzzleReader::Located(Reading reading) const {
+  if (!reading) return tl::unexpected(LocatedFault{place_, std::move(reading.error())});
+  return LocatedPuzzle{place_, *std::move(reading)};
+}
+
+Reading PuzzleReader::ReadLine(std::string_view line) const {
+  if (line.size() > kMostLineBytes) {
+    return tl::unexpected(
+        Fault{kMostLineBytes, "", "the end of the line after a million characters", "more"});
+  }
+  const Format* const format = format_ != nullptr ? format_ : FormatLike(line);
+  if (format != nullptr) return format->read(line);
+  const std::size_t first = SkipSpace(line, 0);
+  return tl::unexpected(Fault{first, "", "a puzzle in one of the formats that are read",
+                              Beginning(line.substr(first))});
+}
+
+void PuzzleReader::Need(std::size_t count) {
+  if (AtHand().size() >= count) return;
+  buffer_.erase(0, std::exchange(start_, 0));
+  while (buffer_.size() < count && !ended_) {
+    const std::size_t before = buffer_.size();
+    buffer_.resize(before + kPieceBytes);
+    const std::size_t read = source_(std::span(buffer_).subspan(before));
+    buffer_.resize(before + read);
+    ended_ = read == 0;
+  }
+}
+
+std::size_t PuzzleReader::LineSize() {
+  std::size_t searched = 0;
+  while (true) {
+    const std::size_t end = AtHand().find('\n', searched);
+    if (end != std::string_view::npos) return std::min(end, kMostLineBytes) + 1;
+    searched = AtHand().size();
+    if (searched > kMostLineBytes) return kMostLineBytes + 1;
+    Need(searched + 1);
+    if (AtHand().size() == searched) return searched;
+  }
+}
+
+void PuzzleReader::SkipRestOfLine() {
+  if (buffer_[start_ - 1] == '\n') return;
+  while (true) {
+    Need(1);
+    if (AtHand().empty()) return;
+    const std::size_t end = AtHand().find('\n');
+    start_ = end == std::string_view::npos ? buffer_.size() : start_ + end + 1;
+    if (end != std::string_view::npos) return;
+  }
+}
+
+}  // namespace tessel::formats
