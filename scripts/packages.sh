@@ -1,10 +1,10 @@
 # The Debian 12 packages that the project needs, and their installation. To be sourced.
 
 # Of the command-line program, and of both programs.
-tool_packages=(g++ cmake ninja-build libexpected-dev libcli11-dev nlohmann-json3-dev pkg-config
+tool_packages=(g++ cmake ninja-build libexpected-dev libcli11-dev nlohmann-json3-dev libcadical-dev pkg-config
                libcairo2-dev libfreetype-dev libqrencode-dev fonts-lato)
 build_packages=("${tool_packages[@]}" qt6-base-dev qt6-multimedia-dev)
-check_packages=(libgmock-dev libcadical-dev clang-format-14 clang-tidy-14 xvfb openbox xdotool x11-utils pulseaudio pulseaudio-utils
+check_packages=(libgmock-dev clang-format-14 clang-tidy-14 xvfb openbox xdotool x11-utils pulseaudio pulseaudio-utils
                 qpdf poppler-utils zbar-tools)
 
 missing_packages() {

@@ -6,6 +6,7 @@
 #include <new>
 #include <vector>
 
+#include "core/version.h"
 #include "tools/failure.h"
 #include "tools/standard_output.h"
 #include "tools/stop_signals.h"
@@ -35,6 +36,8 @@ int Run(const std::string& who, const Work& work) {
     return StopSignal() != 0 ? kSignalBase + StopSignal() : code;
   } catch (const WrongOptions& wrong) {
     return Complain(who, wrong.what(), kWrongOptions);
+  } catch (const Stopped&) {
+    return kSignalBase + StopSignal();
   } catch (const ReaderGone&) {
     return kSignalBase + SIGPIPE;
   } catch (const std::bad_alloc&) {
@@ -66,7 +69,7 @@ int TellParsing(const CLI::App& app, const CLI::ParseError& error) {
 
 int Main(int argc, const char* const* argv) {
   CLI::App app("Irregular sudoku on the command line.", "tessel");
-  app.set_version_flag("--version", "tessel " TESSEL_VERSION);
+  app.set_version_flag("--version", std::string("tessel ") + tessel::Version());
   app.require_subcommand(1);
   app.failure_message(CLI::FailureMessage::simple);
   Work chosen;

@@ -26,4 +26,8 @@ int StopSignal() {
   return stopSignal;
 }
 
+void StopIfAsked() {
+  if (stopSignal != 0) throw Stopped();
+}
+
 }  // namespace tessel::tools

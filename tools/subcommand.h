@@ -26,6 +26,8 @@ struct Subcommand {
 
 std::span<const Subcommand> AllSubcommands();
 
+Work DeclareCheck(CLI::App& app);
+Work DeclareConvert(CLI::App& app);
 Work DeclareFormats(CLI::App& app);
 
 }  // namespace tessel::tools

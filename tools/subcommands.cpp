@@ -7,6 +7,8 @@ namespace tessel::tools {
 namespace {
 
 constexpr std::array kSubcommands{
+    Subcommand{"check", "Tell how many solutions puzzles have", DeclareCheck},
+    Subcommand{"convert", "Write puzzles of one format in another", DeclareConvert},
     Subcommand{"formats", "List the formats that puzzles are read from and written in",
                DeclareFormats},
 };

@@ -33,7 +33,7 @@ Outcome RunShell(const std::string& line, const std::string& input) {
   std::ofstream(base + "in", std::ios::binary) << input;
   const std::string whole = "tessel=" + Quoted(TESSEL_PROGRAM) + "; { " + line + "\n} <" + base +
                             "in >" + base + "out 2>" + base + "err";
-  const int status = std::system(whole.c_str());
+  const int status = std::system(("exec bash -c " + Quoted(whole)).c_str());
   const int code = WIFSIGNALED(status) ? 128 + WTERMSIG(status) : WEXITSTATUS(status);
   return {code, Contents(base + "out"), Contents(base + "err")};
 }
