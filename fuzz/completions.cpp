@@ -43,7 +43,7 @@ Grid DrawGivens(const Grid& filling, Input& input) {
 }
 
 void Try(Input& input) {
-  constexpr long mostPlacements = 10'000;  // of the slow solver, which is not asked further
+  constexpr long mostPlacements = 1'000;  // of the slow solver, which is not asked further
   const Layout layout = DrawLayout(input);
   const Grid givens = DrawGivens(Solver(layout).FillWithin(1000).grid, input);
   oracle::IndependentSolver slow(OracleLayoutOf(layout));

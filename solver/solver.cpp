@@ -14,6 +14,10 @@ namespace {
 constexpr std::uint64_t kFirstPatience = 50;
 constexpr std::uint64_t kMorePatience = 4;
 
+// Completions are searched within so many nodes before the choices are drawn anew.
+constexpr std::uint64_t kFirstSearch = 200;
+constexpr std::uint64_t kLayoutSearch = 5'000;
+
 std::array<std::uint8_t, kSide> DrawDigits(RandomStream& random) {
   std::array<std::uint8_t, kSide> digits;
   std::iota(digits.begin(), digits.end(), std::uint8_t{1});
@@ -55,20 +59,40 @@ void Solver::Use(const Layout& layout) {
   std::ranges::fill(work_->unlocked, Places{});  // which says nothing about another layout
 }
 
-std::vector<Grid> Solver::Completions(const Grid& givens, int most) {
+bool Solver::Place(const Grid& givens) {
   Level& level = work_->levels[0];
   kernel_->clear(*tables_, level);
-  std::vector<Grid> completions;
   for (int cell = 0; cell < kCellCount; ++cell) {
     const int given = givens[cell];
     if (given == 0) continue;
-    if (given > kSide || !kernel_->place(*tables_, level, cell, given - 1)) return completions;
+    if (given > kSide || !kernel_->place(*tables_, level, cell, given - 1)) return false;
     work_->digits[cell] = givens[cell];
   }
+  return true;
+}
+
+// A search that takes long has mostly begun with choices that lead nowhere, or the layout has no
+// filling at all, which shows sooner without the givens. So others are drawn, from a fixed seed,
+// and the search may take longer each time until one comes to its end.
+std::vector<Grid> Solver::Completions(const Grid& givens, int most) {
+  std::vector<Grid> completions;
+  RandomStream random(0);
   Request request;
   request.solutions = most;
-  const Result result = kernel_->search(*tables_, *work_, request);
-  for (int i = 0; i < result.solutions; ++i) completions.push_back(GridOf(work_->found[i]));
+  request.nodes = kFirstSearch;
+  while (Place(givens)) {
+    const Result result = kernel_->search(*tables_, *work_, request);
+    if (result.complete) completions.clear();
+    for (int i = 0; i < result.solutions; ++i) {
+      const Grid grid = GridOf(work_->found[i]);
+      if (std::ranges::find(completions, grid) == completions.end()) completions.push_back(grid);
+    }
+    if (result.complete || std::ssize(completions) == most) break;
+    const bool first = request.random == nullptr;
+    if (first && FillWithin(kLayoutSearch).answer == Answer::kNo) break;
+    request.random = &random;
+    request.nodes *= 2;
+  }
   return completions;
 }
 
@@ -85,13 +109,9 @@ Filling Solver::Fill(RandomStream& random, std::uint64_t mostNodes) {
   request.random = &random;
   for (std::uint64_t patience = kFirstPatience;; patience *= kMorePatience) {
     for (const int house : houses) {
-      Level& level = work_->levels[0];
-      kernel_->clear(*tables_, level);
-      for (int i = 0; i < kSide; ++i) {
-        const int cell = tables_->cellAt[house][i];
-        kernel_->place(*tables_, level, cell, digits[i] - 1);
-        work_->digits[cell] = digits[i];
-      }
+      Grid givens{};
+      for (int i = 0; i < kSide; ++i) givens[tables_->cellAt[house][i]] = digits[i];
+      Place(givens);
       request.nodes = std::min(patience, mostNodes - nodes);
       const Result result = kernel_->search(*tables_, *work_, request);
       nodes += result.nodes;

@@ -61,7 +61,8 @@ class Solver {
   void PutBack(int cell);
 
  private:
-  Filling Attempt(RandomStream& random, std::uint64_t mostNodes);
+  // Makes the givens the first level. False when they clash.
+  bool Place(const Grid& givens);
 
   const Kernel* kernel_;
   std::unique_ptr<Tables> tables_;

@@ -60,6 +60,20 @@ TEST_P(Completions, TwoOfAnEmptyBoardAreTwoFillings) {
   EXPECT_EQ(solver.Completions({}, 1), std::vector{found[0]});
 }
 
+// A search in fixed order takes seconds here, and would not end where there is no filling.
+TEST_P(Completions, OfEmptyBoardsAreFoundByNewChoices) {
+  for (const std::string_view cages :
+       {"117122333112112233424542543434124753664279583656695588676676788177754588999999988",
+        "111111112222222221333333333444444444555555555666666666777777777888888888999999999"}) {
+    SCOPED_TRACE(cages);
+    const Layout layout =
+        Layout::FromCages(GridOf(oracle::GridOf(cages)), Layout::Shape::kAny).value();
+    solver.Use(layout);
+    const auto other = IndependentSolver(OracleLayoutOf(layout)).HasFilling(1'000'000);
+    EXPECT_EQ(solver.Completions({}).empty(), other == false);
+  }
+}
+
 // Sparse givens of a solution, some of them exchanged for other digits.
 TEST_P(Completions, OfSampledGivensAreTheOtherSolvers) {
   int asked = 0;
