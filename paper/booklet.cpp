@@ -64,6 +64,11 @@ bool IsText(const Fonts& fonts, const std::string& text) {
 
 }  // namespace
 
+bool CanBeSet(const std::string& text) {
+  const auto fonts = Fonts::Get();
+  return text.empty() || (fonts && (*fonts)->Shape(text, Face::kRegular).complete);
+}
+
 tl::expected<int, std::string> WriteBooklet(std::span<const BookletPuzzle> puzzles,
                                             const BookletOptions& options, const Sink& sink) {
   const auto fonts = Fonts::Get();

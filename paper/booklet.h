@@ -53,6 +53,9 @@ struct BookletOptions {
   std::int64_t date = 0;  // seconds since 1970, UTC
 };
 
+// Whether the booklet's font has every character of the text.
+bool CanBeSet(const std::string& text);
+
 // Writes the booklet and returns its number of pages. The bytes depend on the arguments alone.
 // Puzzles without a solution have none printed. Errors: nothing to print, a page too small, text
 // that is no UTF-8, a link too long for a code, a sink that refuses.

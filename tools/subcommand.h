@@ -29,5 +29,6 @@ std::span<const Subcommand> AllSubcommands();
 Work DeclareCheck(CLI::App& app);
 Work DeclareConvert(CLI::App& app);
 Work DeclareFormats(CLI::App& app);
+Work DeclarePrint(CLI::App& app);
 
 }  // namespace tessel::tools
