@@ -43,7 +43,8 @@ Slot PlaceSlot(Point at, const Content& content, const SlotNeeds& needs) {
   if (content.beside) {
     const double x = slot.board.Right() + kPad;
     slot.code = {x, slot.board.y, needs.code, needs.code};
-    slot.solution = {x, slot.board.Bottom() - needs.solution, needs.solution, needs.solution};
+    const double lowest = std::max(slot.board.Bottom() - needs.solution, slot.code.Bottom() + kPad);
+    slot.solution = {x, lowest, needs.solution, needs.solution};
     return slot;
   }
   const double y = slot.board.Bottom() + kPad;
