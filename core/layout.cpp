@@ -14,13 +14,43 @@ std::string CageNamed(int cage) {
   return "cage " + std::to_string(cage);
 }
 
-CellSet CellsIn(const CageNumbers& cages, int cage) {
-  CellSet cells;
+// The cells of each cage, at index cage - 1; the numbers must be 1..9.
+std::array<CellSet, kSide> CellsOfCages(const CageNumbers& cages) {
+  std::array<CellSet, kSide> cells{};
   for (int cell = 0; cell < kCellCount; ++cell) {
-    if (cages[cell] == cage) cells = cells | CellSet::Of(cell);
+    CellSet& cage = cells[cages[cell] - 1];
+    cage = cage | CellSet::Of(cell);
   }
   return cells;
 }
+
+// What rows and columns make of every layout: their houses, and for each cell the cells in its row
+// and its column. Layouts are made by the hundred thousand.
+struct Lines {
+  Houses houses{};
+  PerCell<CellSet> cells{};
+};
+
+constexpr Lines kLines = [] {
+  Lines lines;
+  for (int number = 0; number < 3 * kSide; ++number) {
+    House& house = lines.houses[number];
+    house.kind = kHouseKinds[number / kSide];
+    house.index = number % kSide;
+    for (int k = 0; k < kSide; ++k) {
+      const bool row = house.kind == HouseKind::kRow;
+      house.cells[k] =
+          static_cast<std::int16_t>(row ? CellAt(house.index, k) : CellAt(k, house.index));
+    }
+  }
+  for (int cell = 0; cell < kCellCount; ++cell) {
+    for (int k = 0; k < kSide; ++k) {
+      lines.cells[cell] = lines.cells[cell] | CellSet::Of(CellAt(RowOf(cell), k)) |
+                          CellSet::Of(CellAt(k, ColumnOf(cell)));
+    }
+  }
+  return lines;
+}();
 
 std::optional<LayoutError> FaultOfNumbers(const CageNumbers& cages) {
   const auto outside = [](int cage) { return cage < 1 || cage > kSide; };
@@ -43,8 +73,9 @@ std::optional<LayoutError> FaultOfCage(int cage, CellSet cells, Layout::Shape sh
 
 std::optional<LayoutError> FaultOf(const CageNumbers& cages, Layout::Shape shape) {
   if (auto error = FaultOfNumbers(cages)) return error;
+  const auto cells = CellsOfCages(cages);
   for (int cage = 1; cage <= kSide; ++cage) {
-    if (auto error = FaultOfCage(cage, CellsIn(cages, cage), shape)) return error;
+    if (auto error = FaultOfCage(cage, cells[cage - 1], shape)) return error;
   }
   return std::nullopt;
 }
@@ -59,26 +90,14 @@ constexpr CageNumbers kBoxes = [] {
 
 }  // namespace
 
-// Every cell is appended to its row, its column and its cage, in increasing order.
-Layout::Layout(const CageNumbers& cages) : cages_(cages), houses_{}, peers_{} {
-  std::array<CellSet, 3 * kSide> sets{};
-  std::array<std::size_t, 3 * kSide> sizes{};
-  for (std::size_t number = 0; number < houses_.size(); ++number) {
-    houses_[number].kind = kHouseKinds[number / kSide];
-    houses_[number].index = static_cast<int>(number % kSide);
-  }
-  const auto housesOf = [&](int cell) {
-    return std::array{RowOf(cell), kSide + ColumnOf(cell), kFirstCage + cages[cell] - 1};
-  };
+// Every cell is appended to its cage, in increasing order.
+Layout::Layout(const CageNumbers& cages) : cages_(cages), houses_(kLines.houses), peers_{} {
+  const auto cells = CellsOfCages(cages);
+  std::array<std::size_t, kSide> sizes{};
   for (int cell = 0; cell < kCellCount; ++cell) {
-    for (const int house : housesOf(cell)) {
-      houses_[house].cells[sizes[house]++] = static_cast<std::int16_t>(cell);
-      sets[house] = sets[house] | CellSet::Of(cell);
-    }
-  }
-  for (int cell = 0; cell < kCellCount; ++cell) {
-    for (const int house : housesOf(cell)) peers_[cell] = peers_[cell] | sets[house];
-    peers_[cell] = peers_[cell] - CellSet::Of(cell);
+    const auto cage = static_cast<std::size_t>(cages[cell] - 1);
+    houses_[kFirstCage + cage].cells[sizes[cage]++] = static_cast<std::int16_t>(cell);
+    peers_[cell] = (kLines.cells[cell] | cells[cage]) - CellSet::Of(cell);
   }
 }
 

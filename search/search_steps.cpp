@@ -1,4 +1,5 @@
 // The loop of the search and its steps: choosing a cell, placing, undoing.
+#include <array>
 #include <cassert>
 #include <cstring>
 
@@ -7,6 +8,16 @@
 namespace tessel {
 
 namespace {
+
+// CandidateCount of each mask: processors of the generic build count no bits, and the choice of a
+// cell does little else.
+constexpr auto kCandidateCounts = [] {
+  std::array<std::uint8_t, kAllCandidates + 1> counts{};
+  for (int mask = 0; mask <= kAllCandidates; ++mask) {
+    counts[mask] = static_cast<std::uint8_t>(CandidateCount(static_cast<Mask>(mask)));
+  }
+  return counts;
+}();
 
 // Swaps the cells at positions a and b. The cell that comes to b is about to be filled and needs no
 // key.
@@ -66,10 +77,10 @@ void ExactCoverSearch::Step(SearchDriver& driver) {
 void ExactCoverSearch::ChooseCell() {
   SearchLevel& level = Levels[Depth];
   const int pos = Pos();
-  int fewest = CandidateCount(level.Candidates[level.Order[pos]]);
+  int fewest = kCandidateCounts[level.Candidates[level.Order[pos]]];
   // Two are the fewest there are: singles have been placed and contradictions left.
   for (int i = 0; i < pos && fewest > 2; ++i) {
-    const int count = CandidateCount(level.Candidates[level.Order[i]]);
+    const int count = kCandidateCounts[level.Candidates[level.Order[i]]];
     if (count >= fewest) continue;
     fewest = count;
     SwapPositions(level, i, pos);
@@ -80,7 +91,7 @@ void ExactCoverSearch::ChooseCell() {
 BoardStatus ExactCoverSearch::TryFirstDigit() {
   SearchLevel& level = Levels[Depth];
   const int cell = level.Order[Pos()];
-  if (CandidateCount(level.Candidates[cell]) == 1) level.LastChoice[cell] = kTrue16;
+  if (kCandidateCounts[level.Candidates[cell]] == 1) level.LastChoice[cell] = kTrue16;
   return PlaceTrial(cell, LowestDigitOf(level.Candidates[cell]));
 }
 
