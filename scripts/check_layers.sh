@@ -22,7 +22,7 @@ only_includes() {
 knows_no_window() {
   local folder=$1
   [ -d "$folder" ] || return 0
-  if includes "$folder" | grep -E 'include *"(core/(form|controls|view|clock|stopwatch|game_state|sounds|texts)|shell/[a-z_0-9]+)\.h"'; then
+  if includes "$folder" | grep -E 'include *"(core/(form|controls|view|clock|stopwatch|game_state|sounds|texts|vestiges)|shell/[a-z_0-9]+)\.h"'; then
     echo "^ $folder/ may not know the window, its state or its time" >&2
     status=1
   fi

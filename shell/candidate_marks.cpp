@@ -20,9 +20,7 @@ void CandidateMarks::Refresh(const MaskBoard& shown) {
   for (int cell = 0; cell < kCellCount; ++cell) {
     const int entry = state_.PlayBoard.Board[cell];
     form_.SetCellText(cell, entry);
-    for (int digit = 1; digit <= kSide; ++digit) {
-      form_.SetMarkVisible(cell, digit, entry == 0 && Holds(shown[cell], digit));
-    }
+    form_.ShowMarks(cell, entry == 0 ? shown[cell] : Mask{0});
   }
 }
 
