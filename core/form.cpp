@@ -20,22 +20,22 @@ void Form::Assign(T& field, const T& value, FormPart part, int index) {
   view_.FormChanged(part, index);
 }
 
-MarkLook& Form::MarkOf(int cell, int digit) {
-  return LookOf(cell).marks[digit - 1];
+DisplayedMark& Form::MarkOf(int cell, int digit) {
+  return CellOf(cell).marks[digit - 1];
 }
 
-const MarkLook& Form::Mark(int cell, int digit) const {
+const DisplayedMark& Form::Mark(int cell, int digit) const {
   return Cell(cell).marks[digit - 1];
 }
 
 void Form::SetCellText(int cell, int digit) {
-  Assign(LookOf(cell).text, digit, FormPart::kCell, cell);
+  Assign(CellOf(cell).text, digit, FormPart::kCell, cell);
 }
 void Form::SetCellOpaque(int cell, bool opaque) {
-  Assign(LookOf(cell).opaque, opaque, FormPart::kCell, cell);
+  Assign(CellOf(cell).opaque, opaque, FormPart::kCell, cell);
 }
 void Form::SetCellBackground(int cell, Rgb colour) {
-  Assign(LookOf(cell).background, colour, FormPart::kCell, cell);
+  Assign(CellOf(cell).background, colour, FormPart::kCell, cell);
 }
 
 void Form::SetMarkVisible(int cell, int digit, bool visible) {

@@ -15,22 +15,23 @@
 
 namespace tessel {
 
-struct ButtonLook {
+// What a control shows at one moment.
+struct DisplayedButton {
   std::string caption;
   bool enabled = true;
 };
 
-struct MarkLook {
+struct DisplayedMark {
   bool visible = true;
   bool bold = false;
   Rgb colour = kBoardColour;
 };
 
-struct CellLook {
+struct DisplayedCell {
   int text = 0;         // the digit that the cell's label shows, 0 for none
   bool opaque = false;  // whether the background is drawn
   Rgb background = kBoardColour;
-  std::array<MarkLook, kSide> marks;  // Mark1..Mark9, index digit - 1
+  std::array<DisplayedMark, kSide> marks;  // Mark1..Mark9, index digit - 1
 
   Rgb PaintedBackground() const { return opaque ? background : kBoardColour; }
 };
@@ -40,12 +41,12 @@ class Form {
  public:
   explicit Form(View& view);
 
-  const CellLook& Cell(int cell) const { return cells_[cell]; }
+  const DisplayedCell& Cell(int cell) const { return cells_[cell]; }
   void SetCellText(int cell, int digit);
   void SetCellOpaque(int cell, bool opaque);
   void SetCellBackground(int cell, Rgb colour);
 
-  const MarkLook& Mark(int cell, int digit) const;
+  const DisplayedMark& Mark(int cell, int digit) const;
   void SetMarkVisible(int cell, int digit, bool visible);
   void SetMarkColour(int cell, int digit, Rgb colour);
   void SetMarkBold(int cell, int digit, bool bold);
@@ -62,7 +63,7 @@ class Form {
   // Colours the captions of the cell's row and column red; the others stay.
   void HighlightCell(int cell);
 
-  const ButtonLook& Of(Button button) const { return buttons_[IndexOf(button)]; }
+  const DisplayedButton& Of(Button button) const { return buttons_[IndexOf(button)]; }
   void Enable(Button button, bool enabled);
   void SetButtonCaption(Button button, const std::string& caption);
 
@@ -97,14 +98,14 @@ class Form {
  private:
   template <typename T>
   void Assign(T& field, const T& value, FormPart part, int index = 0);
-  CellLook& LookOf(int cell) { return cells_[cell]; }
-  MarkLook& MarkOf(int cell, int digit);
+  DisplayedCell& CellOf(int cell) { return cells_[cell]; }
+  DisplayedMark& MarkOf(int cell, int digit);
 
   View& view_;
-  std::array<CellLook, kCellCount> cells_;
+  std::array<DisplayedCell, kCellCount> cells_;
   std::array<Rgb, kSide> rowCaptions_{};
   std::array<Rgb, kSide> columnCaptions_{};
-  std::array<ButtonLook, kButtonCount> buttons_;
+  std::array<DisplayedButton, kButtonCount> buttons_;
   std::array<bool, kCheckBoxCount> boxes_{};
   std::string caption_;
   std::string textHint_;

@@ -19,7 +19,7 @@
 namespace tessel {
 
 // A boolean held in a 16-bit field.
-enum class Bool16 : std::int16_t { False = 0, True = -1 };
+enum class Bool16 : std::int16_t { kFalse = 0, kTrue = -1 };
 
 // The solving game's fields are those of its Position.
 struct GameState : Position, StateVestiges {
@@ -52,7 +52,7 @@ struct GameState : Position, StateVestiges {
   std::int16_t HintUnit1 = 0;
   std::int16_t HintUnit2 = 0;
   std::int16_t HintUnit3 = 0;
-  Bool16 AssignmentPending = Bool16::False;
+  Bool16 AssignmentPending = Bool16::kFalse;
   MaskBoard SpecialMarks{};  // the special pass's copy of Candidates
 };
 

@@ -171,7 +171,7 @@ class Program {
     click.PencilmarkMode = how % 2 == 0 ? 2 : 1;
     click.AssignmentPending = how / 2 % 2 == 1;
     state_.PencilmarkMode = how % 2 == 0 ? MarkMode::kAutomatic : MarkMode::kNotUpdated;
-    state_.AssignmentPending = click.AssignmentPending ? Bool16::True : Bool16::False;
+    state_.AssignmentPending = click.AssignmentPending ? Bool16::kTrue : Bool16::kFalse;
     form_.SetAllCaptions(kBlack);
     form_.SetTextHint("");
     form_.SetButtonCaption(Button::CommandHint, texts::kHint);
@@ -187,7 +187,7 @@ class Program {
   void RequireSameWindow(const LiteralClick& click) const {
     Require(form_.TextHint() == click.textHint, "the sentence");
     Require(form_.Of(Button::CommandHint).caption == click.buttonCaption, "the button's caption");
-    Require((state_.AssignmentPending == Bool16::True) == click.AssignmentPending, "pending");
+    Require((state_.AssignmentPending == Bool16::kTrue) == click.AssignmentPending, "pending");
     for (int i = 0; i < 9; ++i) {
       Require((form_.LabelRow(i) == kHighlightRed) == click.redRows[i], "the red rows");
       Require((form_.LabelColumn(i) == kHighlightRed) == click.redColumns[i], "the red columns");

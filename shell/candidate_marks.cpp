@@ -15,7 +15,7 @@ void CandidateMarks::SwitchPencilmarksOff() {
 }
 
 void CandidateMarks::Refresh(const MaskBoard& shown) {
-  state_.AssignmentPending = Bool16::False;
+  state_.AssignmentPending = Bool16::kFalse;
   form_.SetButtonCaption(Button::CommandHint, texts::kHint);
   for (int cell = 0; cell < kCellCount; ++cell) {
     const int entry = state_.PlayBoard.Board[cell];

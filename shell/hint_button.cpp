@@ -34,9 +34,9 @@ void HintButton::CommandHint_Click() {
 
 // Comes before the captions turn black: red ones of an earlier hint stay red, on purpose.
 bool HintButton::RevealAssignment() {
-  if (state_.AssignmentPending == Bool16::False) return false;
+  if (state_.AssignmentPending == Bool16::kFalse) return false;
   PointAt(state_.HintCell, Sound::kCashRegister, RevealedDigit(state_.HintCell, state_.HintDigit));
-  state_.AssignmentPending = Bool16::False;
+  state_.AssignmentPending = Bool16::kFalse;
   form_.SetButtonCaption(Button::CommandHint, texts::kHint);
   return true;
 }

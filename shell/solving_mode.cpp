@@ -45,7 +45,7 @@ void SolvingMode::RefreshPencilmarks() {
 }
 
 void SolvingMode::EndAssignment() {
-  state_.AssignmentPending = Bool16::False;
+  state_.AssignmentPending = Bool16::kFalse;
   form_.SetButtonCaption(Button::CommandHint, texts::kHint);
 }
 

@@ -32,7 +32,7 @@ void SpecialPass::SpecialHint() {
 
 void SpecialPass::Announce() {
   sounds_.PlaySound(Sound::kCashRegister);
-  state_.AssignmentPending = Bool16::True;
+  state_.AssignmentPending = Bool16::kTrue;
   form_.SetButtonCaption(Button::CommandHint, texts::kShowMe);
   form_.HighlightCell(state_.HintCell);
   form_.SetTextHint(AnnouncedCell(state_.HintCell));

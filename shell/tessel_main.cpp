@@ -31,7 +31,7 @@ void Tessel_Main::Form_Load() {
   FillTables(state_);
   state_.StopRequested = false;
   form_.Enable(Button::CommandExit, true);
-  state_.AssignmentPending = Bool16::False;
+  state_.AssignmentPending = Bool16::kFalse;
   state_.PencilmarkMode = MarkMode::kAutomatic;
   random_.Seed(clock_.Seed());
 }

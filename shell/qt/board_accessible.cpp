@@ -62,7 +62,7 @@ QAccessible::State CellAccessible::state() const {
 
 QString CellAccessible::Contents() const {
   const Form& form = *board_.Source();
-  const CellLook& look = form.Cell(cell_);
+  const DisplayedCell& look = form.Cell(cell_);
   if (look.text != 0) {
     const bool entry = IsEntry(form, *board_.State(), cell_);
     return QString(entry ? "entry %1" : "given %1").arg(look.text);

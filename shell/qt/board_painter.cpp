@@ -61,7 +61,7 @@ bool IsEntry(const Form& form, const GameState& state, int cell) {
 }
 
 bool IsMarkShown(const Form& form, int cell, int digit) {
-  const MarkLook& mark = form.Mark(cell, digit);
+  const DisplayedMark& mark = form.Mark(cell, digit);
   return mark.visible && mark.colour != form.Cell(cell).PaintedBackground();
 }
 
@@ -141,7 +141,7 @@ void BoardPainter::PaintMarks(QPainter& painter, int cell) const {
   for (int digit = 1; digit <= kSide; ++digit) {
     // Smoothed edges would leave a ghost of a mark painted in the colour of its ground.
     if (!IsMarkShown(form_, cell, digit)) continue;
-    const MarkLook& mark = form_.Mark(cell, digit);
+    const DisplayedMark& mark = form_.Mark(cell, digit);
     QFont font = markFont_;
     font.setBold(mark.bold);
     painter.setFont(font);
@@ -203,7 +203,7 @@ void BoardPainter::PaintPointers(QPainter& painter, const BoardPointers& pointer
   };
   if (pointers.active) {
     const int active = *pointers.active;
-    const CellLook& look = form_.Cell(active);
+    const DisplayedCell& look = form_.Cell(active);
     outline(RegionOf([&](int cell) { return RowOf(cell) == RowOf(active); }), line, Qt::white,
             Qt::black);
     outline(RegionOf([&](int cell) { return ColumnOf(cell) == ColumnOf(active); }), line, Qt::white,

@@ -59,7 +59,7 @@ TEST_F(FormTest, StartsWithTheButtonsOfTheFirstStage) {
       {"", true},    {"Hint", true},  {"Quit", true},     {"Restart", true}, {"Solution", true}};
   ASSERT_EQ(expected.size(), kButtonCount);
   for (std::size_t index = 0; index < kButtonCount; ++index) {
-    const ButtonLook& look = form.Of(static_cast<Button>(index));
+    const DisplayedButton& look = form.Of(static_cast<Button>(index));
     EXPECT_EQ(look.caption, expected[index].first);
     EXPECT_EQ(look.enabled, expected[index].second) << look.caption;
   }

@@ -63,13 +63,13 @@ TEST(GameState, StartsEmpty) {
   EXPECT_FALSE(state.Finished);
   EXPECT_FALSE(state.StopRequested);
   EXPECT_FALSE(state.Command1Pressed);
-  EXPECT_EQ(state.AssignmentPending, Bool16::False);
+  EXPECT_EQ(state.AssignmentPending, Bool16::kFalse);
   EXPECT_EQ(state.Stopwatch, nullptr);
 }
 
 TEST(GameState, TrueIsMinusOneInA16BitField) {
-  EXPECT_EQ(static_cast<int>(Bool16::True), -1);
-  EXPECT_EQ(static_cast<int>(Bool16::False), 0);
+  EXPECT_EQ(static_cast<int>(Bool16::kTrue), -1);
+  EXPECT_EQ(static_cast<int>(Bool16::kFalse), 0);
   EXPECT_EQ(sizeof(Bool16), 2u);
 }
 

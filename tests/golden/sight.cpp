@@ -32,11 +32,11 @@ std::string Quoted(const std::string& text) {
   return '"' + text + '"';
 }
 
-SeenCell Seen(const CellLook& look) {
+SeenCell Seen(const DisplayedCell& look) {
   SeenCell seen;
   seen.text = look.text;
   for (int digit = 1; digit <= kSide; ++digit) {
-    const MarkLook& mark = look.marks[digit - 1];
+    const DisplayedMark& mark = look.marks[digit - 1];
     if (!mark.visible || mark.colour == look.PaintedBackground()) continue;
     seen.marks = static_cast<Mask>(seen.marks | BitOf(digit));
     if (mark.bold) seen.boldMarks = static_cast<Mask>(seen.boldMarks | BitOf(digit));

@@ -130,10 +130,10 @@ TEST_F(HintClick, PendingAssignmentComesBeforeEveryCheck) {
   PutDigit(12, 5);
   state().HintCell = 80;
   state().HintDigit = 7;
-  state().AssignmentPending = Bool16::True;
+  state().AssignmentPending = Bool16::kTrue;
   EXPECT_EQ(Hint(), "Candidate 7 can savely be assigned to cell J9");
   EXPECT_EQ(sounds, std::vector<int>{7});
-  EXPECT_EQ(state().AssignmentPending, Bool16::False);
+  EXPECT_EQ(state().AssignmentPending, Bool16::kFalse);
   EXPECT_EQ(ButtonCaption(), "Hint");
   EXPECT_TRUE(Hint().starts_with("Incorrect number 5 at cell B4"));
 }
@@ -143,7 +143,7 @@ TEST_F(HintClick, PendingAssignmentLeavesTheOtherCaptionsRed) {
   Hint();
   state().HintCell = 80;
   state().HintDigit = 7;
-  state().AssignmentPending = Bool16::True;
+  state().AssignmentPending = Bool16::kTrue;
   Hint();
   EXPECT_EQ(Red(), "BJ 49");
 }

@@ -100,7 +100,7 @@ void HintPlayer::AskSpecialPass() {
   const MaskBoard before = state_.Candidates;
   program_.Tick(CheckBox::CheckPencilmarks, false);
   program_.main.Click(Button::CommandHint);
-  if (state_.AssignmentPending == Bool16::True) {
+  if (state_.AssignmentPending == Bool16::kTrue) {
     ++specialAnnouncements;
     const int cell = state_.HintCell;
     if (state_.HintKind == HintCode::kNakedSingle) {

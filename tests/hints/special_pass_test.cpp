@@ -165,13 +165,13 @@ TEST_F(SpecialClick, AnnouncesTheCellAndRevealsTheDigitOnTheNextClick) {
   EXPECT_EQ(sounds, std::vector<int>{7});
   EXPECT_EQ(Red(), "J 9");
   EXPECT_EQ(ButtonCaption(), "Show Me");
-  EXPECT_EQ(state().AssignmentPending, Bool16::True);
+  EXPECT_EQ(state().AssignmentPending, Bool16::kTrue);
 
   EXPECT_EQ(Hint(), "Candidate 8 can savely be assigned to cell J9");
   EXPECT_EQ(sounds, std::vector<int>{7});
   EXPECT_EQ(Red(), "J 9");
   EXPECT_EQ(ButtonCaption(), "Hint");
-  EXPECT_EQ(state().AssignmentPending, Bool16::False);
+  EXPECT_EQ(state().AssignmentPending, Bool16::kFalse);
 
   EXPECT_EQ(Hint(), "A candidate can savely be assigned to cell J9") << "a fresh search";
 }
@@ -203,7 +203,7 @@ TEST_F(SpecialClick, NothingToFindIsSaidSilently) {
   EXPECT_TRUE(sounds.empty());
   EXPECT_EQ(Red(), "- -");
   EXPECT_EQ(ButtonCaption(), "Hint");
-  EXPECT_EQ(state().AssignmentPending, Bool16::False);
+  EXPECT_EQ(state().AssignmentPending, Bool16::kFalse);
 }
 
 TEST_F(SpecialClick, EliminatesUntilItMeetsASingle) {
@@ -250,7 +250,7 @@ TEST_F(SpecialClick, TickingTheBoxOrRestartingEndsTheAnnouncement) {
   EXPECT_EQ(ButtonCaption(), "Show Me");
   main.Click(Button::CommandRestart);
   EXPECT_EQ(ButtonCaption(), "Hint");
-  EXPECT_EQ(state().AssignmentPending, Bool16::False);
+  EXPECT_EQ(state().AssignmentPending, Bool16::kFalse);
 }
 
 }  // namespace

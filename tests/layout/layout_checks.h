@@ -59,7 +59,7 @@ inline testing::AssertionResult IsRotational(const GameState& state) {
 
 inline testing::AssertionResult IsPaintedInCageColours(const GameState& state, const Form& form) {
   for (int cell = 0; cell < kCellCount; ++cell) {
-    const CellLook& look = form.Cell(cell);
+    const DisplayedCell& look = form.Cell(cell);
     if (!look.opaque || look.background != kCageColours[state.CageOfCell[cell] - 1]) {
       return testing::AssertionFailure() << "cell " << cell;
     }

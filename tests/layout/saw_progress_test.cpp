@@ -15,7 +15,7 @@ int OpaqueCells(const Form& form) {
 
 // Whether the cell looks as it must: painted in its cage's colour, or not painted.
 bool Shows(const GeneratorRig& rig, int cell, bool painted) {
-  const CellLook& look = rig.form.Cell(cell);
+  const DisplayedCell& look = rig.form.Cell(cell);
   if (!painted) return !look.opaque;
   return look.opaque && look.background == kCageColours[rig.state.CageOfCell[cell] - 1];
 }

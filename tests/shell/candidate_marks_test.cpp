@@ -64,10 +64,10 @@ TEST_F(SwitchPencilmarksOn, RewritesTheTextOfEveryCell) {
 }
 
 TEST_F(SwitchPencilmarksOn, EndsAPendingAssignment) {
-  state.AssignmentPending = Bool16::True;
+  state.AssignmentPending = Bool16::kTrue;
   form.SetButtonCaption(Button::CommandHint, texts::kShowMe);
   marks.SwitchPencilmarksOn();
-  EXPECT_EQ(state.AssignmentPending, Bool16::False);
+  EXPECT_EQ(state.AssignmentPending, Bool16::kFalse);
   EXPECT_EQ(form.Of(Button::CommandHint).caption, "Hint");
 }
 
@@ -106,10 +106,10 @@ TEST_F(SwitchPencilmarksOff, RewritesTheTextOfEveryCell) {
 }
 
 TEST_F(SwitchPencilmarksOff, EndsAPendingAssignment) {
-  state.AssignmentPending = Bool16::True;
+  state.AssignmentPending = Bool16::kTrue;
   form.SetButtonCaption(Button::CommandHint, texts::kShowMe);
   marks.SwitchPencilmarksOff();
-  EXPECT_EQ(state.AssignmentPending, Bool16::False);
+  EXPECT_EQ(state.AssignmentPending, Bool16::kFalse);
   EXPECT_EQ(form.Of(Button::CommandHint).caption, "Hint");
 }
 

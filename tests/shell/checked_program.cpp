@@ -196,7 +196,7 @@ void CheckedProgram::CheckSolveButtons() {
     Expect(form_.Of(button).enabled, "Quit and Restart are always on");
   }
   Expect(state_.Finished == !open_, "Finished follows the board");
-  const bool pending = state_.AssignmentPending == Bool16::True;
+  const bool pending = state_.AssignmentPending == Bool16::kTrue;
   Expect(form_.Of(Button::CommandHint).caption == (pending ? texts::kShowMe : texts::kHint),
          "Show Me stands for a pending assignment");
   const bool automatic = state_.PencilmarkMode == MarkMode::kAutomatic;
@@ -215,7 +215,7 @@ void CheckedProgram::CheckGivens() {
 }
 
 void CheckedProgram::CheckCell(int cell) {
-  const CellLook& look = form_.Cell(cell);
+  const DisplayedCell& look = form_.Cell(cell);
   Expect(texts_ == Texts::kConcealment || look.text == ExpectedText(cell), "the text of a cell");
   const Mask marks = ExpectedMarks(cell);
   for (int digit = 1; digit <= kSide; ++digit) {

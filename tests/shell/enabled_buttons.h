@@ -25,7 +25,7 @@ inline std::string EnabledButtons(const Form& form) {
   constexpr std::array<std::string_view, 5> names{"Saw", "Fill", "Conceal", "Solve", "Exit"};
   std::string list;
   for (std::size_t i = 0; i < names.size(); ++i) {
-    const ButtonLook& look = form.Of(static_cast<Button>(i));
+    const DisplayedButton& look = form.Of(static_cast<Button>(i));
     if (!look.enabled) continue;
     if (!list.empty()) list += ' ';
     list += names[i];

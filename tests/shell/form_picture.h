@@ -26,10 +26,10 @@ inline void DrawColour(std::ostream& out, Rgb colour) {
       << static_cast<int>(colour.blue);
 }
 
-inline void DrawCell(std::ostream& out, const CellLook& look) {
+inline void DrawCell(std::ostream& out, const DisplayedCell& look) {
   out << look.text << (look.opaque ? " on " : " over ");
   DrawColour(out, look.background);
-  for (const MarkLook& mark : look.marks) {
+  for (const DisplayedMark& mark : look.marks) {
     out << (mark.visible ? " +" : " -") << (mark.bold ? "b" : "");
     DrawColour(out, mark.colour);
   }

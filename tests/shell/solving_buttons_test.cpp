@@ -226,16 +226,16 @@ TEST_F(SolvingButtons, TheBoxEndsAPendingAssignment) {
 TEST_F(SolvingButtons, ABoxAlreadyInStepWithTheModeDoesNothing) {
   Left(kEmpty, 2);
   Probe().PencilmarkMode = MarkMode::kNotUpdated;  // out of step with the ticked box
-  Probe().AssignmentPending = Bool16::True;
+  Probe().AssignmentPending = Bool16::kTrue;
   const long changes = program.view.changes;
   program.main.Toggle(CheckBox::CheckPencilmarks);
   EXPECT_EQ(program.view.changes, changes + 1) << "the box itself, no redraw";
   EXPECT_EQ(state().PencilmarkMode, MarkMode::kNotUpdated);
-  EXPECT_EQ(state().AssignmentPending, Bool16::True);
+  EXPECT_EQ(state().AssignmentPending, Bool16::kTrue);
   Probe().PencilmarkMode = MarkMode::kAutomatic;
   program.main.Toggle(CheckBox::CheckPencilmarks);
   EXPECT_EQ(program.view.changes, changes + 2);
-  EXPECT_EQ(state().AssignmentPending, Bool16::True);
+  EXPECT_EQ(state().AssignmentPending, Bool16::kTrue);
 }
 
 }  // namespace

@@ -76,11 +76,11 @@ class SolvingTest : public testing::Test {
     program.main.Click(Button::CommandHint);
     Probe().Candidates = kept;
     TakeSounds();
-    ASSERT_EQ(state().AssignmentPending, Bool16::True);
+    ASSERT_EQ(state().AssignmentPending, Bool16::kTrue);
     ASSERT_EQ(form().Of(Button::CommandHint).caption, "Show Me");
   }
   void ExpectPending(bool pending) {
-    EXPECT_EQ(state().AssignmentPending, pending ? Bool16::True : Bool16::False);
+    EXPECT_EQ(state().AssignmentPending, pending ? Bool16::kTrue : Bool16::kFalse);
     EXPECT_EQ(form().Of(Button::CommandHint).caption, pending ? "Show Me" : "Hint");
   }
   // The captions of the lines that are not black.

@@ -95,7 +95,7 @@ TEST(StartUp, FillsTheTables) {
 TEST(StartUp, SetsTheFlags) {
   TestProgram program;
   EXPECT_FALSE(program.state().StopRequested);
-  EXPECT_EQ(program.state().AssignmentPending, Bool16::False);
+  EXPECT_EQ(program.state().AssignmentPending, Bool16::kFalse);
   EXPECT_EQ(program.state().PencilmarkMode, MarkMode::kAutomatic);
   EXPECT_FALSE(program.state().Finished);
   EXPECT_FALSE(program.state().Command1Pressed);

@@ -45,7 +45,7 @@ void AskForHint(TestProgram& program, Fingerprint& hints) {
       hints.Add(program.form().LabelRow(line).red);
       hints.Add(program.form().LabelColumn(line).red);
     }
-  } while (program.state().AssignmentPending == Bool16::True);
+  } while (program.state().AssignmentPending == Bool16::kTrue);
 }
 
 void Play(TestProgram& program, int seed, Fingerprint& hints) {

@@ -50,10 +50,10 @@ class ClickComparison : public testing::TestWithParam<int> {
     SetFields(RandomFields(random), state_);
     state_.PencilmarkMode =
         DrawIndex(random, 4) == 0 ? MarkMode::kNotUpdated : MarkMode::kAutomatic;
-    if (DrawIndex(random, 10) == 0) state_.AssignmentPending = Bool16::True;
+    if (DrawIndex(random, 10) == 0) state_.AssignmentPending = Bool16::kTrue;
     literal_.hints = CopyOf(state_);
     literal_.PencilmarkMode = static_cast<int>(state_.PencilmarkMode);
-    literal_.AssignmentPending = state_.AssignmentPending == Bool16::True;
+    literal_.AssignmentPending = state_.AssignmentPending == Bool16::kTrue;
   }
 
   void ExpectSameWindow(const Scene& scene) {
@@ -72,7 +72,7 @@ class ClickComparison : public testing::TestWithParam<int> {
 
   void ExpectSameState(const Scene& scene) {
     ASSERT_EQ(FieldsOf(state_), FieldsOf(literal_.hints)) << scene;
-    ASSERT_EQ(state_.AssignmentPending == Bool16::True, literal_.AssignmentPending) << scene;
+    ASSERT_EQ(state_.AssignmentPending == Bool16::kTrue, literal_.AssignmentPending) << scene;
     ASSERT_EQ(state_.Candidates, MasksOf(scene.marks)) << scene;
     ASSERT_EQ(state_.SpecialMarks, MasksOf(literal_.hints.SpecialMarks)) << scene;
     ASSERT_EQ(state_.PlayBoard, state_.SavedPuzzle) << scene;
