@@ -37,3 +37,11 @@ function(tessel_install_pages component)
     install(FILES ${ARGN} DESTINATION ${CMAKE_INSTALL_MANDIR}/man6 COMPONENT ${component})
   endif()
 endfunction()
+
+# tessel_install_completion(FILE): what bash completes the command's arguments with.
+function(tessel_install_completion file)
+  if(NOT TESSEL_PORTABLE)
+    install(FILES ${file} DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions
+      COMPONENT tools)
+  endif()
+endfunction()
