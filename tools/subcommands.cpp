@@ -11,6 +11,7 @@ constexpr std::array kSubcommands{
     Subcommand{"convert", "Write puzzles of one format in another", DeclareConvert},
     Subcommand{"formats", "List the formats that puzzles are read from and written in",
                DeclareFormats},
+    Subcommand{"grade", "Tell how hard puzzles are", DeclareGrade},
     Subcommand{"print", "Print a booklet, or pictures of boards", DeclarePrint},
 };
 
