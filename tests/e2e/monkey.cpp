@@ -30,7 +30,7 @@ std::uint64_t seed = 1;
 
 constexpr auto kLatestRepaint = 1s;
 constexpr int kActionsBetweenLooks = 60;
-constexpr int kActionsToWarmUp = 600;
+constexpr int kActionsToWarmUp = 240;
 constexpr long kMostGrowth = 24 * 1024;  // kilobytes since the program was warm
 constexpr auto kIdleTime = 3s;
 constexpr auto kMostIdleWork = 90ms;  // of processor time in that time
@@ -162,11 +162,11 @@ void Monkey::MakePuzzle() {
   }
 }
 
-// One answer in five ends the program.
+// One answer in twelve ends the program.
 void Monkey::RequestClosing() {
   TheDesktop().Xdo({"windowactivate", Window().Id(), "key", "alt+F4"});
   std::this_thread::sleep_for(200ms);
-  TheDesktop().Xdo({"key", Below(5) == 0 ? "alt+y" : "Escape"});
+  TheDesktop().Xdo({"key", Below(12) == 0 ? "alt+y" : "Escape"});
   std::this_thread::sleep_for(200ms);
 }
 
@@ -199,7 +199,8 @@ void Monkey::DismissQuestions() {
 // takes the window's own paint.
 testing::AssertionResult Monkey::RepaintsInTime() {
   constexpr QColor kNowhereElse(255, 0, 255);
-  const QRect patch(Window().Area().center() - QPoint(20, 20), QSize(40, 40));
+  const QRect seen = Window().Area() & QRect(0, 0, Desktop::kWidth, Desktop::kHeight);
+  const QRect patch(seen.center() - QPoint(20, 20), QSize(40, 40));
   QWidget cover(nullptr, Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint);
   cover.setPalette(QPalette(kNowhereElse));
   cover.setGeometry(patch);
@@ -208,7 +209,10 @@ testing::AssertionResult Monkey::RepaintsInTime() {
     QCoreApplication::processEvents();
     return TheDesktop().Screenshot(patch).pixelColor(20, 20) == kNowhereElse;
   };
-  if (!Eventually(shows)) return testing::AssertionFailure() << "the cover does not show";
+  if (!Eventually(shows, 10s)) {
+    return testing::AssertionFailure()
+           << "the cover does not show at " << patch.x() << ", " << patch.y();
+  }
   cover.hide();
   const auto start = Clock::now();
   Eventually([&] { return !shows(); });
