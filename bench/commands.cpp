@@ -53,6 +53,7 @@ void PrintStages(const char* name, const Stages& stages) {
 
 int main(int argc, char** argv) {
   using namespace tessel::bench;
+  using tessel::ConcealMode;
   const int puzzles = argc > 1 ? std::atoi(argv[1]) : 5000;
   std::printf("Whole commands without a window, processor time on this machine\n");
   PrintStages("irregular, random", MakePuzzles(LayoutKind::kRandom, ConcealMode::kSingle, puzzles));
