@@ -98,6 +98,7 @@ TEST_F(BadSurroundings, FolderIsReadOnlyButTheUserHasOne) {
 
 TEST_F(BadSurroundings, FolderIsReadOnlyAndTheDataFolderIsAFile) {
   const TemporaryFolder home;
+  std::filesystem::permissions(home.Path(), std::filesystem::perms::all);
   std::ofstream(home.Path() / "data") << "taken";
   Launch launch = AsHomelessReader(folder_.Path());
   const std::filesystem::path data = home.Path() / "data";
