@@ -6,7 +6,7 @@
 #include "layout/cage_generator.h"
 #include "search/conceal.h"
 #include "search/fill.h"
-#include "solver/solver.h"
+#include "search/random_restarts.h"
 
 namespace {
 
@@ -15,13 +15,22 @@ void Print(const tessel::PerCell<std::uint8_t>& numbers, char end) {
   std::putchar(end);
 }
 
+// Gives up where the watched search finds no filling soon.
+bool CanBeFilled(const tessel::Layout& layout) {
+  using tessel::RandomRestarts;
+  tessel::ExactCoverSearch search(layout);
+  tessel::SeededRandom random;
+  RandomRestarts restarts(search, random, tessel::Unwatched());
+  return restarts.Run(400'000) == RandomRestarts::Result::kFilled;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   using namespace tessel;
   if (argc != 2) return EXIT_FAILURE;
   SeededRandom random(std::strtoull(argv[1], nullptr, 10));
-  const Layout layout = Saw(LayoutSymmetry::kNone, random, solver::CanBeFilled).value();
+  const Layout layout = Saw(LayoutSymmetry::kNone, random, CanBeFilled).value();
   const Grid solution = Fill(layout, random).value();
   const Grid givens = Conceal(layout, solution, ConcealMode::kSingle, random).value();
   Print(givens, ' ');
