@@ -1,5 +1,5 @@
-// one_puzzle SEED: makes a puzzle with nothing but core, layout, search and solver, and prints its
-// givens and the cage of each cell.
+// one_puzzle SEED: makes a puzzle with nothing but core, layout and search, and prints its givens
+// and the cage of each cell.
 #include <cstdio>
 #include <cstdlib>
 
