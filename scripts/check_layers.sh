@@ -36,14 +36,15 @@ only_includes grade 'core|hints|solver|grade'
 only_includes maker 'core|layout|search|solver|hints|grade|maker'
 only_includes formats 'core|layout|search|hints|solver|grade|formats'
 only_includes paper 'core|grade|paper'
+only_includes explain 'core|hints|grade|paper|explain'
 only_includes shell 'core|layout|search|hints|solver|grade|maker|formats|paper|shell'
-only_includes tools 'core|layout|search|hints|solver|grade|maker|formats|paper|tools'
-for folder in layout search hints solver grade maker formats paper tools; do
+only_includes tools 'core|layout|search|hints|solver|grade|maker|formats|paper|explain|tools'
+for folder in layout search hints solver grade maker formats paper explain tools; do
   knows_no_window "$folder"
 done
 
 folders=()
-for folder in core layout search hints solver grade maker formats paper shell tools; do
+for folder in core layout search hints solver grade maker formats paper explain shell tools; do
   [ -d "$folder" ] && folders+=("$folder")
 done
 if grep -rnE --include='*.h' --include='*.cpp' '^ *# *include *[<"]Q' "${folders[@]}" \

@@ -6,8 +6,8 @@
 #include "grade/grader.h"
 #include "paper/picture_file.h"
 #include "solver/solver.h"
+#include "tools/document.h"
 #include "tools/failure.h"
-#include "tools/output.h"
 #include "tools/print_options.h"
 #include "tools/stop_signals.h"
 #include "tools/subcommand.h"
@@ -67,48 +67,6 @@ Output::Existing ExistingFiles(const PrintOptions& options) {
   return options.force ? Output::Existing::kReplaced : Output::Existing::kRefused;
 }
 
-paper::Sink SinkTo(Output& output) {
-  return [&output](std::span<const unsigned char> bytes) {
-    output.Write({reinterpret_cast<const char*>(bytes.data()), bytes.size()});
-    return true;
-  };
-}
-
-// The printer's library must not be left by an exception: what the output throws waits until it is
-// back.
-class PatientSink {
- public:
-  explicit PatientSink(Output& output) : sink_(SinkTo(output)) {}
-
-  paper::Sink AsSink() {
-    return [this](std::span<const unsigned char> bytes) {
-      try {
-        return StopSignal() == 0 && sink_(bytes);
-      } catch (...) {
-        thrown_ = std::current_exception();
-        return false;
-      }
-    };
-  }
-  void Rethrow() const {
-    if (thrown_) std::rethrow_exception(thrown_);
-  }
-
- private:
-  paper::Sink sink_;
-  std::exception_ptr thrown_;
-};
-
-// Writes a file that is there whole or not at all.
-void WriteFile(const std::string& path, const PrintOptions& options, const auto& write) {
-  Output output(path, ExistingFiles(options));
-  PatientSink sink(output);
-  const auto written = write(sink.AsSink());
-  sink.Rethrow();
-  if (!written) throw Failure("cannot print " + path + ": " + written.error());
-  output.Finish();
-}
-
 void TellMissingCharacters(const std::string& what, const std::string& text) {
   if (paper::CanBeSet(text)) return;
   std::cerr << "the font has not every character of the " << what << "\n";
@@ -118,8 +76,9 @@ void PrintBooklet(const PrintOptions& options, const std::vector<BookletPuzzle>&
   const paper::BookletOptions booklet = options.Booklet();
   TellMissingCharacters("title", booklet.title);
   TellMissingCharacters("author", booklet.author);
-  WriteFile(options.output, options,
-            [&](const paper::Sink& sink) { return paper::WriteBooklet(puzzles, booklet, sink); });
+  WriteDocument(options.output, ExistingFiles(options), [&](const paper::Sink& sink) {
+    return paper::WriteBooklet(puzzles, booklet, sink).map([](int) {});
+  });
 }
 
 // "board.svg" for the only puzzle, else "board-7.svg".
@@ -139,7 +98,7 @@ void PrintPictures(const PrintOptions& options, const std::vector<BookletPuzzle>
     if (options.marks) picture.marks = paper::PencilMarksOf(picture.layout, picture.digits);
     const auto number = static_cast<std::size_t>(options.numberFrom) + k;
     const std::string path = PicturePath(options.output, puzzles.size(), number);
-    WriteFile(path, options, [&](const paper::Sink& sink) {
+    WriteDocument(path, ExistingFiles(options), [&](const paper::Sink& sink) {
       return svg ? paper::WriteSvg(picture, style, sink)
                  : paper::WritePng(picture, style, options.pixelsPerInch, sink);
     });

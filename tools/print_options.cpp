@@ -1,12 +1,10 @@
 #include "tools/print_options.h"
 
 #include <algorithm>
-#include <charconv>
-#include <cstdlib>
-#include <ctime>
 
 #include "formats/sudokupad.h"
 #include "paper/page_size.h"
+#include "tools/document.h"
 #include "tools/failure.h"
 
 namespace tessel::tools {
@@ -20,23 +18,6 @@ template <typename T>
 T Parsed(tl::expected<T, std::string> value) {
   if (!value) throw WrongOptions(value.error());
   return *std::move(value);
-}
-
-// The moment that the document tells as its date: SOURCE_DATE_EPOCH, so that a booklet can be made
-// again byte for byte, else now.
-std::int64_t DateOfDocument() {
-  const char* const given = std::getenv("SOURCE_DATE_EPOCH");
-  if (given == nullptr || *given == '\0') return std::time(nullptr);
-  const std::string_view text(given);
-  std::int64_t seconds = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), seconds);
-  constexpr std::int64_t endOfYear9999 = 253402300799;
-  if (error != std::errc() || end != text.data() + text.size() || seconds < 0 ||
-      seconds > endOfYear9999) {
-    throw WrongOptions("SOURCE_DATE_EPOCH is no number of seconds since 1970: " +
-                       std::string(text));
-  }
-  return seconds;
 }
 
 // A link that opens the puzzle on a phone.

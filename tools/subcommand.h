@@ -28,6 +28,7 @@ std::span<const Subcommand> AllSubcommands();
 
 Work DeclareCheck(CLI::App& app);
 Work DeclareConvert(CLI::App& app);
+Work DeclareExplain(CLI::App& app);
 Work DeclareFormats(CLI::App& app);
 Work DeclareGrade(CLI::App& app);
 Work DeclarePrint(CLI::App& app);

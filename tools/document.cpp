@@ -1,0 +1,74 @@
+#include "tools/document.h"
+
+#include <charconv>
+#include <cstdlib>
+#include <ctime>
+#include <exception>
+
+#include "tools/failure.h"
+#include "tools/stop_signals.h"
+
+namespace tessel::tools {
+
+namespace {
+
+paper::Sink SinkTo(Output& output) {
+  return [&output](std::span<const unsigned char> bytes) {
+    output.Write({reinterpret_cast<const char*>(bytes.data()), bytes.size()});
+    return true;
+  };
+}
+
+// The printer's library must not be left by an exception: what the output throws waits until it is
+// back.
+class PatientSink {
+ public:
+  explicit PatientSink(Output& output) : sink_(SinkTo(output)) {}
+
+  paper::Sink AsSink() {
+    return [this](std::span<const unsigned char> bytes) {
+      try {
+        return StopSignal() == 0 && sink_(bytes);
+      } catch (...) {
+        thrown_ = std::current_exception();
+        return false;
+      }
+    };
+  }
+  void Rethrow() const {
+    if (thrown_) std::rethrow_exception(thrown_);
+  }
+
+ private:
+  paper::Sink sink_;
+  std::exception_ptr thrown_;
+};
+
+}  // namespace
+
+std::int64_t DateOfDocument() {
+  const char* const given = std::getenv("SOURCE_DATE_EPOCH");
+  if (given == nullptr || *given == '\0') return std::time(nullptr);
+  const std::string_view text(given);
+  std::int64_t seconds = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), seconds);
+  constexpr std::int64_t endOfYear9999 = 253402300799;
+  if (error != std::errc() || end != text.data() + text.size() || seconds < 0 ||
+      seconds > endOfYear9999) {
+    throw WrongOptions("SOURCE_DATE_EPOCH is no number of seconds since 1970: " +
+                       std::string(text));
+  }
+  return seconds;
+}
+
+void WriteDocument(const std::string& path, Output::Existing existing,
+                   const DocumentWriter& write) {
+  Output output(path, existing);
+  PatientSink sink(output);
+  const auto written = write(sink.AsSink());
+  sink.Rethrow();
+  if (!written) throw Failure("cannot print " + path + ": " + written.error());
+  output.Finish();
+}
+
+}  // namespace tessel::tools
