@@ -4,7 +4,6 @@
 
 #include <filesystem>
 #include <fstream>
-#include <regex>
 
 #include "explain/story.h"
 #include "tests/fakes/temporary_folder.h"
@@ -25,11 +24,11 @@ std::string Page(const std::string& title) {
 // Names of the language of the pictures are no references.
 TEST(Page, RefersToNothingOutside) {
   const std::string page = Page("A puzzle");
-  const std::regex reference("https?://[^'\" ]*|url\\([^)]*|//[a-z]+\\.");
-  for (std::sregex_iterator match(page.begin(), page.end(), reference), end; match != end;
-       ++match) {
-    const std::string found = match->str();
-    EXPECT_TRUE(found.starts_with("http://www.w3.org/") || found.starts_with("url(%23")) << found;
+  for (std::size_t at = 0; (at = page.find("//", at)) != std::string::npos; ++at) {
+    EXPECT_EQ(page.substr(at, 13), "//www.w3.org/") << page.substr(at, 80);
+  }
+  for (std::size_t at = 0; (at = page.find("url(", at)) != std::string::npos; ++at) {
+    EXPECT_EQ(page.substr(at, 7), "url(%23") << page.substr(at, 80);
   }
   EXPECT_THAT(page, HasSubstr("default-src 'none'"));
 }
