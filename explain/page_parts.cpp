@@ -42,10 +42,10 @@ body:not(.stepping) nav { display: none; }
   body { font-size: 9.5pt; }
   nav, .stepping nav { display: none; }
   main { max-width: none; padding: 0; }
-  .step, .stepping .step { display: grid; break-inside: avoid; margin: 0 0 7mm;
-    grid-template-columns: 78mm 1fr; }
+  .step, .stepping .step { display: grid; break-inside: avoid; margin: 0 0 6mm;
+    grid-template-columns: 73mm 1fr; }
   .stepping .now img { max-height: none; width: 100%; }
-  .after { max-width: 48mm; }
+  .after { max-width: 38mm; }
   h2 { font-size: 13pt; }
   footer { padding: 3mm 0 0; }
 }
