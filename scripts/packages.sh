@@ -1,12 +1,12 @@
 # The Debian 12 packages that the project needs, and their installation. To be sourced.
 
 # Of the command-line program, and of both programs.
-tool_packages=(g++ cmake ninja-build libexpected-dev libcli11-dev nlohmann-json3-dev libcadical-dev pkg-config
+tool_packages=(g++ cmake ninja-build libexpected-dev libcli11-dev nlohmann-json3-dev libcadical-dev libssl-dev pkg-config
                libcairo2-dev libfreetype-dev libqrencode-dev fonts-lato)
 build_packages=("${tool_packages[@]}" qt6-base-dev qt6-multimedia-dev)
 check_packages=(libgmock-dev clang-format-14 clang-tidy-14 xvfb openbox xdotool x11-utils pulseaudio pulseaudio-utils
                 desktop-file-utils appstream man-db
-                qpdf poppler-utils zbar-tools)
+                qpdf poppler-utils zbar-tools parallel)
 
 # To build packages of it, and to check them.
 package_packages=(debhelper dpkg-dev lintian desktop-file-utils appstream)

@@ -91,6 +91,8 @@ int Main(int argc, const char* const* argv) {
 int main(int argc, char** argv) {
   // A closed pipe is met where it is written to, so that files are put in order first.
   std::signal(SIGPIPE, SIG_IGN);
+  // So is a limit of the size of files.
+  std::signal(SIGXFSZ, SIG_IGN);
   try {
     return Main(argc, argv);
   } catch (const std::exception& error) {

@@ -31,6 +31,7 @@ Work DeclareConvert(CLI::App& app);
 Work DeclareExplain(CLI::App& app);
 Work DeclareFormats(CLI::App& app);
 Work DeclareGrade(CLI::App& app);
+Work DeclareMake(CLI::App& app);
 Work DeclarePrint(CLI::App& app);
 
 }  // namespace tessel::tools

@@ -13,6 +13,7 @@ constexpr std::array kSubcommands{
     Subcommand{"formats", "List the formats that puzzles are read from and written in",
                DeclareFormats},
     Subcommand{"grade", "Tell how hard puzzles are", DeclareGrade},
+    Subcommand{"make", "Make puzzles from seeds", DeclareMake},
     Subcommand{"print", "Print a booklet, or pictures of boards", DeclarePrint},
 };
 
