@@ -37,7 +37,10 @@ struct Workspace {
 struct Request {
   int solutions = 1;                        // how many are wanted, 1 or 2
   std::uint64_t nodes = ~std::uint64_t{0};  // how many may be tried
-  RandomStream* random = nullptr;           // draws the choices; without it they are fixed
+  // For each cell, choices there that led nowhere, and 1; counted on. Cells with many of them for
+  // their candidates are chosen first then.
+  std::uint64_t* failures = nullptr;
+  RandomStream* random = nullptr;  // draws the choices; without it they are fixed
 };
 
 struct Result {

@@ -45,6 +45,7 @@ class Search {
   // What was tried has no more solutions: its digit cannot stand there.
   void Ascend() {
     const auto [cell, digit] = work_.choices[--depth_];
+    if (request_.failures != nullptr) ++request_.failures[cell];
     Places& places = Top().places[digit];
     (Lanes::Load(places) - Lanes::Load(tables_.only[cell])).Store(places);
   }
@@ -52,6 +53,7 @@ class Search {
   // A cell with two candidates; without one, a house with two places for a digit; without either, a
   // cell with as few candidates as any.
   Choice Choose() {
+    if (request_.failures != nullptr) return InMostFailing();
     const Counts counts = CountCandidates();
     const Lanes open = Lanes::Load(Top().open);
     const Lanes pairs = open - (counts.eights | counts.fours | (counts.ones & counts.twos));
@@ -67,6 +69,25 @@ class Search {
       if (fewer.Empty() != kNoLane) fewest = fewer;
     }
     return InCell(fewest);
+  }
+
+  // The open cell with the most failures for each of its candidates.
+  Choice InMostFailing() {
+    int best = 0;
+    std::uint64_t bestCount = 1;
+    std::uint64_t bestFailures = 0;
+    for (int cell = 0; cell < kCellCount; ++cell) {
+      const std::uint32_t candidates = CandidatesAt(Top(), RowOf(cell), ColumnOf(cell));
+      if (candidates == 0) continue;
+      const auto count = static_cast<std::uint64_t>(__builtin_popcount(candidates));
+      const std::uint64_t failures = request_.failures[cell];
+      if (failures * bestCount <= bestFailures * count) continue;
+      best = cell;
+      bestCount = count;
+      bestFailures = failures;
+    }
+    const int digit = Draw(CandidatesAt(Top(), RowOf(best), ColumnOf(best)));
+    return {static_cast<std::uint8_t>(best), static_cast<std::uint8_t>(digit)};
   }
 
   // The number of candidates of every cell in binary: a counter of four bits for each bit of the

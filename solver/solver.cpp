@@ -72,11 +72,13 @@ bool Solver::Place(const Grid& givens) {
 }
 
 // A search that takes long has mostly begun with choices that lead nowhere, or the layout has no
-// filling at all, which shows sooner without the givens. So others are drawn, from a fixed seed,
-// and the search may take longer each time until one comes to its end.
+// filling at all, which shows sooner without the givens. After that choices are drawn, from a fixed
+// seed, in cells where others have failed, and the search may take longer each time.
 std::vector<Grid> Solver::Completions(const Grid& givens, int most) {
   std::vector<Grid> completions;
   RandomStream random(0);
+  PerCell<std::uint64_t> failures;
+  failures.fill(1);
   Request request;
   request.solutions = most;
   request.nodes = kFirstSearch;
@@ -91,6 +93,7 @@ std::vector<Grid> Solver::Completions(const Grid& givens, int most) {
     const bool first = request.random == nullptr;
     if (first && FillWithin(kLayoutSearch).answer == Answer::kNo) break;
     request.random = &random;
+    request.failures = failures.data();
     request.nodes *= 2;
   }
   return completions;

@@ -74,6 +74,15 @@ TEST_P(Completions, OfEmptyBoardsAreFoundByNewChoices) {
   }
 }
 
+// Four givens of a layout that has no filling: proved by choosing where choices have failed.
+TEST_P(Completions, SparseGivensOfAnUnfillableLayoutAreRefused) {
+  const auto cages = oracle::GridOf(
+      "111223344111723334112223344152263344557766644557766566655277888995997888999997888");
+  solver.Use(Layout::FromCages(GridOf(cages), Layout::Shape::kAny).value());
+  const auto givens = oracle::GridOf("000000000000030000000000000200600000000000060000000000");
+  EXPECT_TRUE(solver.Completions(GridOf(givens)).empty());
+}
+
 // Sparse givens of a solution, some of them exchanged for other digits.
 TEST_P(Completions, OfSampledGivensAreTheOtherSolvers) {
   int asked = 0;
