@@ -7,6 +7,8 @@ namespace tessel::solver {
 
 namespace {
 
+constexpr int kSatisfiable = 10;  // CaDiCaL's number for it
+
 // Nearly every layout is decided within these; a thousand take about half a millisecond.
 constexpr std::uint64_t kSearchedNodes = 5'000;
 
@@ -57,13 +59,34 @@ Grid GridOf(CaDiCaL::Solver& sat) {
 
 // Digits can be exchanged for each other, so those of the first row are given.
 Filling DecideBySat(const Layout& layout) {
-  constexpr int kSatisfiable = 10;
   CaDiCaL::Solver sat;
   RequireRules(sat, layout);
   for (int column = 0; column < kSide; ++column)
     RequireAny(sat, std::array{Stands(column, column + 1)});
   if (sat.solve() != kSatisfiable) return {Answer::kNo, {}, 0};
   return {Answer::kYes, GridOf(sat), 0};
+}
+
+// A completion that was found is forbidden before the next is looked for.
+std::vector<Grid> DecideCompletions(const Layout& layout, const Grid& givens, int most) {
+  if (auto searched = Solver(layout).CompletionsWithin(givens, most, kSearchedNodes)) {
+    return *searched;
+  }
+  CaDiCaL::Solver sat;
+  RequireRules(sat, layout);
+  for (int cell = 0; cell < kCellCount; ++cell) {
+    if (givens[cell] != 0) RequireAny(sat, std::array{Stands(cell, givens[cell])});
+  }
+  std::vector<Grid> completions;
+  while (std::ssize(completions) < most && sat.solve() == kSatisfiable) {
+    completions.push_back(GridOf(sat));
+    std::array<int, kCellCount> others;
+    for (int cell = 0; cell < kCellCount; ++cell) {
+      others[cell] = -Stands(cell, completions.back()[cell]);
+    }
+    RequireAny(sat, others);
+  }
+  return completions;
 }
 
 Filling DecideFillable(const Layout& layout, Path path) {

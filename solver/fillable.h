@@ -13,4 +13,7 @@ Filling DecideFillable(const Layout& layout, Path path = BestPath());
 // The same by the SAT solver alone, which shares nothing with the search. Counts no nodes.
 Filling DecideBySat(const Layout& layout);
 
+// The completions of any givens of any layout, two at most; see Solver::Completions.
+std::vector<Grid> DecideCompletions(const Layout& layout, const Grid& givens, int most = 2);
+
 }  // namespace tessel::solver

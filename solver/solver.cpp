@@ -1,6 +1,7 @@
 #include "solver/solver.h"
 
 #include <algorithm>
+#include <limits>
 #include <numeric>
 
 #include "solver/kernel.h"
@@ -74,29 +75,35 @@ bool Solver::Place(const Grid& givens) {
 // A search that takes long has mostly begun with choices that lead nowhere, or the layout has no
 // filling at all, which shows sooner without the givens. After that choices are drawn, from a fixed
 // seed, in cells where others have failed, and the search may take longer each time.
-std::vector<Grid> Solver::Completions(const Grid& givens, int most) {
+std::optional<std::vector<Grid>> Solver::CompletionsWithin(const Grid& givens, int most,
+                                                           std::uint64_t mostNodes) {
   std::vector<Grid> completions;
   RandomStream random(0);
   PerCell<std::uint64_t> failures;
   failures.fill(1);
   Request request;
   request.solutions = most;
-  request.nodes = kFirstSearch;
-  while (Place(givens)) {
+  for (std::uint64_t patience = kFirstSearch; Place(givens); patience *= 2) {
+    request.nodes = std::min(patience, mostNodes);
     const Result result = kernel_->search(*tables_, *work_, request);
+    mostNodes -= result.nodes;
     if (result.complete) completions.clear();
     for (int i = 0; i < result.solutions; ++i) {
       const Grid grid = GridOf(work_->found[i]);
       if (std::ranges::find(completions, grid) == completions.end()) completions.push_back(grid);
     }
-    if (result.complete || std::ssize(completions) == most) break;
+    if (result.complete || std::ssize(completions) == most) return completions;
+    if (mostNodes == 0) return std::nullopt;
     const bool first = request.random == nullptr;
-    if (first && FillWithin(kLayoutSearch).answer == Answer::kNo) break;
+    if (first && FillWithin(kLayoutSearch).answer == Answer::kNo) return completions;
     request.random = &random;
     request.failures = failures.data();
-    request.nodes *= 2;
   }
   return completions;
+}
+
+std::vector<Grid> Solver::Completions(const Grid& givens, int most) {
+  return *CompletionsWithin(givens, most, std::numeric_limits<std::uint64_t>::max());
 }
 
 Filling Solver::FillWithin(std::uint64_t mostNodes) {
@@ -108,6 +115,8 @@ Filling Solver::Fill(RandomStream& random, std::uint64_t mostNodes) {
   const auto digits = DrawDigits(random);
   const auto houses = DrawHouses(random);
   std::uint64_t nodes = 0;
+  PerCell<std::uint64_t> failures;
+  failures.fill(1);
   Request request;
   request.random = &random;
   for (std::uint64_t patience = kFirstPatience;; patience *= kMorePatience) {
@@ -115,6 +124,7 @@ Filling Solver::Fill(RandomStream& random, std::uint64_t mostNodes) {
       Grid givens{};
       for (int i = 0; i < kSide; ++i) givens[tables_->cellAt[house][i]] = digits[i];
       Place(givens);
+      if (patience != kFirstPatience) request.failures = failures.data();
       request.nodes = std::min(patience, mostNodes - nodes);
       const Result result = kernel_->search(*tables_, *work_, request);
       nodes += result.nodes;

@@ -43,6 +43,10 @@ class Solver {
   // The completions of the givens, two at most. Any numbers are allowed: clashing givens and
   // numbers above 9 have no completion.
   std::vector<Grid> Completions(const Grid& givens, int most = 2);
+  // The same, or nothing when that takes more than `mostNodes` nodes: a few givens of a layout
+  // without a filling may. DecideCompletions ends for those, too.
+  std::optional<std::vector<Grid>> CompletionsWithin(const Grid& givens, int most,
+                                                     std::uint64_t mostNodes);
   bool HasUniqueCompletion(const Grid& givens) { return Completions(givens).size() == 1; }
 
   // A filling of the empty layout, drawn from the stream, unless more than `mostNodes` nodes would

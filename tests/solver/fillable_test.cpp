@@ -56,5 +56,22 @@ TEST(DecideFillable, SearchAndSatAgree) {
   EXPECT_GT(unfillable, 0);
 }
 
+// One given of a layout without a filling, which the search alone does not decide.
+TEST(DecideCompletions, EndsWhereTheSearchDoesNot) {
+  const auto cages = oracle::GridOf(
+      "112223333111723334111223344155522444666555844666885559667288999677788999777784899");
+  const Layout layout = Layout::FromCages(GridOf(cages), Layout::Shape::kAny).value();
+  Grid givens{};
+  givens[57] = 6;
+  EXPECT_EQ(Solver(layout).CompletionsWithin(givens, 2, 20'000), std::nullopt);
+  EXPECT_TRUE(DecideCompletions(layout, givens).empty());
+}
+
+TEST(DecideCompletions, FindsTwoBySatToo) {
+  const Layout layout = SampleLayout(1);
+  EXPECT_EQ(DecideCompletions(layout, {}).size(), 2U);
+  EXPECT_EQ(DecideCompletions(layout, {}, 1).size(), 1U);
+}
+
 }  // namespace
 }  // namespace tessel::solver
