@@ -158,7 +158,7 @@ TEST(Techniques, QuintsChangeNoGrade) {
 TEST(Leftovers, OfOneLineSayWhatPointingAndClaimingSay) {
   BoardMaker maker;
   int compared = 0;
-  for (int i = 0; i < Boards() / 20; ++i) {
+  for (int i = 0; i < Boards() / 4; ++i) {
     const MadeBoard board = maker.Next();
     if (!StepsOf(StepKind::kPointing, board.layout, board.position).empty()) continue;
     if (!StepsOf(StepKind::kClaiming, board.layout, board.position).empty()) continue;
