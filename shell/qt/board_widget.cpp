@@ -5,7 +5,6 @@
 #include <QPainter>
 #include <QtMath>
 #include <algorithm>
-#include <utility>
 
 #include "shell/qt/board_accessible.h"
 
@@ -16,18 +15,10 @@ namespace {
 constexpr int kLeastBoard = 240;
 constexpr int kUsualBoard = 560;
 
-struct ButtonName {
-  Qt::MouseButton pressed;
-  MouseButton button;
-};
-constexpr std::array<ButtonName, 3> kButtons{{{Qt::LeftButton, MouseButton::kLeft},
-                                              {Qt::RightButton, MouseButton::kRight},
-                                              {Qt::MiddleButton, MouseButton::kMiddle}}};
-
-std::optional<std::size_t> ButtonIndex(Qt::MouseButton pressed) {
-  for (std::size_t i = 0; i < kButtons.size(); ++i) {
-    if (kButtons[i].pressed == pressed) return i;
-  }
+std::optional<MouseButton> ButtonOf(Qt::MouseButton pressed) {
+  if (pressed == Qt::LeftButton) return MouseButton::kLeft;
+  if (pressed == Qt::RightButton) return MouseButton::kRight;
+  if (pressed == Qt::MiddleButton) return MouseButton::kMiddle;
   return std::nullopt;
 }
 
@@ -139,22 +130,18 @@ void BoardWidget::paintEvent(QPaintEvent* event) {
 }
 
 void BoardWidget::mousePressEvent(QMouseEvent* event) {
-  const auto index = ButtonIndex(event->button());
-  if (!index) return;
-  const auto point = PointAt(event->position());
-  pressedCell_[*index] = point ? std::optional(point->cell) : std::nullopt;
-  if (point) FocusCell(point->cell);
+  if (!ButtonOf(event->button())) return;
+  if (const auto point = PointAt(event->position())) FocusCell(point->cell);
 }
 
-// Press and release must meet in one cell. Dragging off it takes the press back, as on every
-// button; the digit is chosen by the place of the release.
+// The place of the release alone says which cell is meant, and which digit. Letting go beside the
+// board takes the press back.
 void BoardWidget::mouseReleaseEvent(QMouseEvent* event) {
-  const auto index = ButtonIndex(event->button());
-  if (!index) return;
-  const auto pressed = std::exchange(pressedCell_[*index], std::nullopt);
+  const auto button = ButtonOf(event->button());
   const auto point = PointAt(event->position());
-  if (!pressed || !point || point->cell != *pressed) return;
-  emit CellReleased(point->cell, kButtons[*index].button, point->x, point->y);
+  if (!button || !point) return;
+  FocusCell(point->cell);
+  emit CellReleased(point->cell, *button, point->x, point->y);
 }
 
 void BoardWidget::mouseMoveEvent(QMouseEvent* event) {

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QWidget>
-#include <array>
 #include <optional>
 
 #include "core/cell_click.h"
@@ -39,7 +38,7 @@ class BoardWidget final : public QWidget {
   QSize minimumSizeHint() const override;
 
  signals:
-  // A mouse button released over the cell in which it was pressed, or a key that stands for it;
+  // A mouse button released over the cell, wherever it was pressed, or a key that stands for it;
   // (x, y) in units from the cell's corner.
   void CellReleased(int cell, tessel::MouseButton button, double x, double y);
 
@@ -64,8 +63,7 @@ class BoardWidget final : public QWidget {
   const Form* form_ = nullptr;
   const GameState* state_ = nullptr;
   int focusedCell_ = kCentreCell;
-  std::optional<int> pointedCell_;                 // by the mouse, until a key moves the focus
-  std::array<std::optional<int>, 3> pressedCell_;  // left, right, middle
+  std::optional<int> pointedCell_;  // by the mouse, until a key moves the focus
 };
 
 }  // namespace tessel

@@ -33,9 +33,9 @@ reads <b>Stop</b>.</p>
 <tr><td>remove or add a mark</td><td>right click on its place</td><td>Ctrl + digit</td></tr>
 <tr><td>empty the cell, show all nine marks</td><td>middle click</td><td>Insert</td></tr>
 </table>
-<p>The number pad works too; its 0 is Insert and its point is Delete. Drag off the cell before you
-let go to take a click back. Tab moves between the controls; every button and box names its shortcut
-in its tooltip.</p>
+<p>The number pad works too; its 0 is Insert and its point is Delete. What counts is where you let
+go of the mouse button: drag off the board to take a click back. Tab moves between the controls;
+every button and box names its shortcut in its tooltip.</p>
 <p><b>Hint</b> names the next logical step and marks its rows and columns red, with an arrow. It never
 changes the board. <b>Restart</b> begins the puzzle again, <b>Solution</b> shows it solved.</p>
 <h2>Rules that surprise</h2>

@@ -97,12 +97,12 @@ TEST_F(BoardWidget, DoubleClickIsTwoClicks) {
   EXPECT_EQ(releases, (Releases{once, once}));
 }
 
-TEST_F(BoardWidget, ReleaseInAnotherCellTakesThePressBack) {
+TEST_F(BoardWidget, ReleaseInAnotherCellActsThere) {
   QTest::mousePress(&board, Qt::LeftButton, {}, Mark(7, 9));
+  EXPECT_EQ(board.FocusedCell(), 7);
   QTest::mouseRelease(&board, Qt::LeftButton, {}, Mark(8, 7));
-  EXPECT_TRUE(releases.empty());
-  QTest::mouseRelease(&board, Qt::LeftButton, {}, Mark(7, 9));
-  EXPECT_TRUE(releases.empty()) << "the press is used up";
+  EXPECT_EQ(releases, (Releases{{8, MouseButton::kLeft, 7}}));
+  EXPECT_EQ(board.FocusedCell(), 8);
 }
 
 TEST_F(BoardWidget, ReleaseElsewhereInTheCellChoosesTheDigit) {
@@ -111,14 +111,20 @@ TEST_F(BoardWidget, ReleaseElsewhereInTheCellChoosesTheDigit) {
   EXPECT_EQ(releases, (Releases{{7, MouseButton::kLeft, 1}}));
 }
 
-TEST_F(BoardWidget, PressOrReleaseBesideTheBoardDoesNothing) {
+TEST_F(BoardWidget, ReleaseBesideTheBoardTakesThePressBack) {
   const QPoint beside(2, 2);
   QTest::mouseClick(&board, Qt::LeftButton, {}, beside);
-  QTest::mousePress(&board, Qt::LeftButton, {}, beside);
-  QTest::mouseRelease(&board, Qt::LeftButton, {}, Mark(0, 1));
   QTest::mousePress(&board, Qt::LeftButton, {}, Mark(0, 1));
   QTest::mouseRelease(&board, Qt::LeftButton, {}, beside);
+  QTest::mousePress(&board, Qt::LeftButton, {}, Mark(0, 1));
+  QTest::mouseRelease(&board, Qt::LeftButton, {}, QPoint(-30, 4000));
   EXPECT_TRUE(releases.empty());
+}
+
+TEST_F(BoardWidget, PressBesideTheBoardCountsWhereItIsLetGo) {
+  QTest::mousePress(&board, Qt::RightButton, {}, QPoint(2, 2));
+  QTest::mouseRelease(&board, Qt::RightButton, {}, Mark(44, 6));
+  EXPECT_EQ(releases, (Releases{{44, MouseButton::kRight, 6}}));
 }
 
 TEST_F(BoardWidget, ButtonsArePressedIndependently) {
