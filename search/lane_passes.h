@@ -5,9 +5,10 @@
 #include "search/search_level.h"
 
 // Where the compiler can, the passes are also built for wider vectors and chosen when the program
-// starts on a processor that has them.
+// starts on a processor that has them. Not under sanitizers: the choice is made before they start,
+// and they would watch it.
 #if defined(__x86_64__) && defined(__GNUC__) && !defined(__clang__) && \
-    !defined(__SANITIZE_ADDRESS__)
+    !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
 #define TESSEL_WIDE_VECTORS __attribute__((target_clones("avx2", "default")))
 #else
 #define TESSEL_WIDE_VECTORS
