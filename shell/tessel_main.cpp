@@ -5,6 +5,7 @@
 
 #include "core/texts.h"
 #include "shell/hint_button.h"
+#include "shell/opened_puzzle.h"
 
 namespace tessel {
 
@@ -71,6 +72,38 @@ void Tessel_Main::Toggle(CheckBox box) {
 void Tessel_Main::Grid_MouseUp(int cell, MouseButton button, int /*shift*/, double x, double y) {
   if (form_.Running() || asking_ || cell < 0 || cell >= kCellCount) return;
   solving_.Grid_MouseUp(cell, button, {x, y});
+}
+
+bool Tessel_Main::OpenPuzzle(const Puzzle& puzzle) {
+  if (form_.Running() || asking_ || !LeaveGame()) return false;
+  ShowOpenedPuzzle(state_, form_, puzzle);
+  return true;
+}
+
+// A game that is over needs no question.
+bool Tessel_Main::LeaveGame() {
+  if (!form_.SolveButtonsVisible()) return true;
+  if (!state_.Finished && !Ask(texts::kQuitSolving, texts::kSolver)) return false;
+  solving_.Leave();
+  return true;
+}
+
+std::optional<Puzzle> Tessel_Main::PuzzleAtHand() const {
+  const bool solvable = form_.Of(Button::CommandSolve).enabled || form_.SolveButtonsVisible();
+  if (!solvable || form_.Running()) return std::nullopt;
+  const PuzzleRecord& saved = state_.SavedPuzzle;
+  return Puzzle{Layout::FromCages(saved.CageMap, Layout::Shape::kAny).value(), saved.Board,
+                saved.Solution};
+}
+
+std::uint64_t Tessel_Main::DrawSeed() {
+  random_.Seed(clock_.Seed());
+  std::uint64_t seed = 0;
+  for (int draw = 0; draw < 3; ++draw) {
+    constexpr int bits = 21;
+    seed = seed << bits | static_cast<std::uint64_t>(DrawIndex(random_, 1 << bits));
+  }
+  return seed;
 }
 
 bool Tessel_Main::AcceptsInput(Button button) const {

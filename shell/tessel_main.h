@@ -9,6 +9,7 @@
 #include "core/cell_click.h"
 #include "core/form.h"
 #include "core/game_state.h"
+#include "core/puzzle.h"
 #include "core/random_source.h"
 #include "core/sounds.h"
 #include "shell/generation_commands.h"
@@ -36,6 +37,15 @@ class Tessel_Main {
   // A mouse button released over a cell, 0..80, at (x, y) units from the cell's top left corner;
   // positions outside the cell are allowed. The shift state is ignored.
   void Grid_MouseUp(int cell, MouseButton button, int shift, double x, double y);
+  // Puts another puzzle on the board, which must have its solution, as a completed Conceal leaves
+  // one; nothing is saved. A game that is not over is left only when the player agrees, by Quit's
+  // question. False, and nothing has changed, when the player does not, and while a command runs or
+  // a question is open.
+  bool OpenPuzzle(const Puzzle& puzzle);
+  // What Solve or Restart would open; nothing while there is no such puzzle, or a command runs.
+  std::optional<Puzzle> PuzzleAtHand() const;
+  // A number for work of its own that needs chance.
+  std::uint64_t DrawSeed();
   // The request to close the window; true when the window may close.
   bool Form_QueryUnload();
 
@@ -51,6 +61,7 @@ class Tessel_Main {
   bool AcceptsInput(Button button) const;
   bool AcceptsInput(CheckBox box) const;
   bool SolveFrameAcceptsInput() const;
+  bool LeaveGame();
   bool Ask(const char* question, const char* title);
 
   View& view_;
