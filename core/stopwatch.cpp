@@ -8,13 +8,13 @@ namespace {
 // Deliberate: the threshold of 1000 is compared as a fixed-point number with four decimals, which
 // makes it 10 MHz. A slower counter is passed over for the tick of a millisecond.
 constexpr std::int64_t kFixedPointUnit = 10'000;
-constexpr std::int64_t kLeastUsableFrequency = 1000 * kFixedPointUnit;
+constexpr std::int64_t kMinUsableFrequency = 1000 * kFixedPointUnit;
 constexpr std::int64_t kTicksPerSecond = 1000;
 }  // namespace
 
 void sTime::Init() {
   const std::int64_t frequency = clock_.QueryPerformanceFrequency();
-  useTickCount_ = frequency < kLeastUsableFrequency;
+  useTickCount_ = frequency < kMinUsableFrequency;
   frequency_ = useTickCount_ ? kTicksPerSecond : frequency;
 }
 

@@ -82,7 +82,7 @@ constexpr std::array kColumns{
 };
 
 const Columns& UsualColumns() {
-  static const Columns columns = ColumnsNamed(kUsualColumns).value();
+  static const Columns columns = ColumnsNamed(kDefaultColumns).value();
   return columns;
 }
 

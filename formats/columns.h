@@ -31,7 +31,7 @@ namespace tessel::formats {
 struct Column;
 using Columns = std::vector<const Column*>;
 
-inline constexpr char kUsualColumns[] =
+inline constexpr char kDefaultColumns[] =
     "index,puzzle,solution,cages,givens,level,hardest,score,symmetry,canonical";
 
 // From names parted by commas; the error is a name that is none.

@@ -24,7 +24,7 @@ constexpr Details kTabled{Detail::kSolution, Detail::kRating};
 
 constexpr std::string_view kCsvHeader =
     "index,puzzle,solution,cages,givens,level,hardest,score,symmetry,canonical\n";
-static_assert(kCsvHeader.starts_with(kUsualColumns));
+static_assert(kCsvHeader.starts_with(kDefaultColumns));
 
 constexpr std::array kFormats{
     Format{kSdsName,

@@ -63,7 +63,7 @@ Fault PackingFault(std::string_view line, const Payload& payload, LzFault fault)
     case LzFault::Kind::kCode:
       return {offset, "", "a code of lz-string", "one of no entry: the link is damaged"};
     case LzFault::Kind::kTooLong:
-      return {offset, "", "at most " + std::to_string(kMostJsonCharacters) + " characters of JSON",
+      return {offset, "", "at most " + std::to_string(kMaxJsonCharacters) + " characters of JSON",
               "more"};
   }
   return {};
@@ -73,7 +73,7 @@ struct TooDeep : std::exception {};
 
 tl::expected<Json, std::string> Parsed(const std::string& text) {
   const auto shallow = [](int depth, Json::parse_event_t, Json&) {
-    if (depth > kMostJsonDepth) throw TooDeep();
+    if (depth > kMaxJsonDepth) throw TooDeep();
     return true;
   };
   try {
@@ -82,7 +82,7 @@ tl::expected<Json, std::string> Parsed(const std::string& text) {
     const std::string message = error.what();
     return tl::unexpected(message.substr(message.find("] ") + 2));
   } catch (const TooDeep&) {
-    return tl::unexpected("lists more than " + std::to_string(kMostJsonDepth) + " deep");
+    return tl::unexpected("lists more than " + std::to_string(kMaxJsonDepth) + " deep");
   }
 }
 
@@ -101,7 +101,7 @@ tl::expected<Json, Fault> LinkedJson(std::string_view line,
                                      std::span<const std::string_view> markers) {
   const std::size_t start = BehindMarker(line, markers);
   const Payload payload = PayloadFrom(line, start);
-  const auto units = LzDecompressed(payload.letters, kMostJsonCharacters);
+  const auto units = LzDecompressed(payload.letters, kMaxJsonCharacters);
   if (!units) return tl::unexpected(PackingFault(line, payload, units.error()));
   const auto text = Utf8Of(*units);
   if (!text) return tl::unexpected(Fault{start, "in its JSON", "Unicode", "half a character"});

@@ -19,8 +19,8 @@
 namespace tessel::formats {
 
 // Whole puzzles take a few thousand characters; with these bounds no link takes much memory.
-inline constexpr std::size_t kMostJsonCharacters = 1'000'000;
-inline constexpr int kMostJsonDepth = 32;
+inline constexpr std::size_t kMaxJsonCharacters = 1'000'000;
+inline constexpr int kMaxJsonDepth = 32;
 
 using Json = nlohmann::json;
 using OrderedJson = nlohmann::ordered_json;

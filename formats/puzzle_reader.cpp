@@ -76,10 +76,10 @@ PuzzleReader::Result PuzzleReader::NextLine() {
     const std::size_t first = SkipSpace(line, 0);
     if (first < size && line[first] != '#') {
       Reading reading = ReadLine(line.substr(0, line.find_last_not_of("\r\n") + 1));
-      if (size > kMostLineBytes) SkipRestOfLine();
+      if (size > kMaxLineBytes) SkipRestOfLine();
       return Located(std::move(reading));
     }
-    if (size > kMostLineBytes) SkipRestOfLine();
+    if (size > kMaxLineBytes) SkipRestOfLine();
   }
 }
 
@@ -89,9 +89,9 @@ PuzzleReader::Result PuzzleReader::Located(Reading reading) const {
 }
 
 Reading PuzzleReader::ReadLine(std::string_view line) const {
-  if (line.size() > kMostLineBytes) {
+  if (line.size() > kMaxLineBytes) {
     return tl::unexpected(
-        Fault{kMostLineBytes, "", "the end of the line after a million characters", "more"});
+        Fault{kMaxLineBytes, "", "the end of the line after a million characters", "more"});
   }
   const Format* const format = format_ != nullptr ? format_ : FormatLike(line);
   if (format != nullptr) return format->read(line);
@@ -116,9 +116,9 @@ std::size_t PuzzleReader::LineSize() {
   std::size_t searched = 0;
   while (true) {
     const std::size_t end = AtHand().find('\n', searched);
-    if (end != std::string_view::npos) return std::min(end, kMostLineBytes) + 1;
+    if (end != std::string_view::npos) return std::min(end, kMaxLineBytes) + 1;
     searched = AtHand().size();
-    if (searched > kMostLineBytes) return kMostLineBytes + 1;
+    if (searched > kMaxLineBytes) return kMaxLineBytes + 1;
     Need(searched + 1);
     if (AtHand().size() == searched) return searched;
   }

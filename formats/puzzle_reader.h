@@ -38,7 +38,7 @@ struct LocatedPuzzle {
 
 class PuzzleReader {
  public:
-  static constexpr std::size_t kMostLineBytes = std::size_t{1} << 20;
+  static constexpr std::size_t kMaxLineBytes = std::size_t{1} << 20;
 
   // Without a format, every line is looked at, and the start of the input for .sds.
   explicit PuzzleReader(ByteSource source, const Format* format = nullptr);

@@ -14,7 +14,7 @@ constexpr char32_t kBehindPairs = 0xE000;
 constexpr char32_t kLastCharacter = 0x10FFFF;
 
 // The least character that each number of bytes is for.
-constexpr std::array<char32_t, 5> kLeastOf{0, 0, 0x80, 0x800, 0x10000};
+constexpr std::array<char32_t, 5> kMinOf{0, 0, 0x80, 0x800, 0x10000};
 
 // How many bytes a character has that begins with this one; 0: none does.
 int LengthFrom(unsigned char lead) {
@@ -35,7 +35,7 @@ int CharacterAt(std::string_view bytes) {
     character = character << 6 | (bits & 0x3FU);
   }
   const bool isPairHalf = character >= kFirstOfTwo && character < kBehindPairs;
-  const bool isLeast = character >= kLeastOf[static_cast<std::size_t>(length)];
+  const bool isLeast = character >= kMinOf[static_cast<std::size_t>(length)];
   return isLeast && !isPairHalf && character <= kLastCharacter ? length : 0;
 }
 

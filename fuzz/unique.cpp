@@ -19,9 +19,9 @@ using oracle::Layout;
 
 // Sparse givens without a completion may keep a search busy for minutes: there are always as many
 // as concealing leaves at least, and more where they may contradict each other.
-constexpr int kFewestGivens = 23;
-constexpr int kFewestChangedGivens = 34;
-constexpr long kMostPlacements = 100'000;  // of the other solver, which is not asked further
+constexpr int kMinGivens = 23;
+constexpr int kMinChangedGivens = 34;
+constexpr long kMaxPlacements = 100'000;  // of the other solver, which is not asked further
 
 struct Sample {
   Layout layout;
@@ -65,7 +65,7 @@ Grid DrawGivens(const Grid& solution, int fewest, Input& input) {
     givens[cell] = solution[cell];
     ++count;
   }
-  while (!input.Empty() && fewest == kFewestChangedGivens) {
+  while (!input.Empty() && fewest == kMinChangedGivens) {
     const int cell = input.Draw(81);
     givens[cell] = static_cast<std::int8_t>(input.Byte());
   }
@@ -78,10 +78,10 @@ void Try(Input& input) {
   const int kind = input.Byte();
   const Layout layout = kind % 8 == 0 ? sample.layout : MoveCells(sample.layout, kind % 8, input);
   const Grid givens =
-      DrawGivens(sample.solution, kind == 0 ? kFewestGivens : kFewestChangedGivens, input);
+      DrawGivens(sample.solution, kind == 0 ? kMinGivens : kMinChangedGivens, input);
   search.Use(oracle::ProgramLayout(layout));
   oracle::IndependentSolver solver(layout);
-  const auto completions = solver.CountSolutions(givens, 2, kMostPlacements);
+  const auto completions = solver.CountSolutions(givens, 2, kMaxPlacements);
   if (!completions) return;
   Require(search.UniqueSolution(givens) == (completions == 1), "two solvers agree");
 }

@@ -17,7 +17,7 @@ RandomStream StreamFor(Purpose purpose, std::uint64_t seed, std::uint64_t index)
 
 // Layouts are sawn again when this did not suffice. Of those with a filling, one in ten thousand
 // needs more; most of those without one show it sooner.
-constexpr std::uint64_t kMostFillNodes = 1000;
+constexpr std::uint64_t kMaxFillNodes = 1000;
 
 }  // namespace
 
@@ -36,7 +36,7 @@ Maker::Filled Maker::SawAndFill(std::uint64_t seed, std::uint64_t index) {
   std::optional<Grid> grid;
   const auto fills = [&](const Layout& layout) {
     solver_.Use(layout);
-    const solver::Filling filling = solver_.Fill(fill, kMostFillNodes);
+    const solver::Filling filling = solver_.Fill(fill, kMaxFillNodes);
     if (filling.answer == solver::Answer::kYes) grid = filling.grid;
     return grid.has_value();
   };

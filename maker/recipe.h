@@ -17,7 +17,7 @@ struct Recipe {
   LayoutKind layout = LayoutKind::kRandom;
   solver::ConcealRule conceal = solver::ConcealRule::kSingle;
   // Concealing ends when no more givens are left, or when every cell has been tried.
-  int givens = solver::kUsualGivens;
+  int givens = solver::kDefaultGivens;
 
   friend bool operator==(const Recipe&, const Recipe&) = default;
 };

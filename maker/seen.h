@@ -11,14 +11,14 @@ namespace tessel::maker {
 // for a repeat.
 class Seen {
  public:
-  Seen() : slots_(kFewestSlots) {}
+  Seen() : slots_(kMinSlots) {}
 
   // Whether the fingerprint is new; it is known from then on.
   bool Add(std::uint64_t fingerprint);
   std::uint64_t Size() const { return size_; }
 
  private:
-  static constexpr std::size_t kFewestSlots = 1024;  // always a power of two
+  static constexpr std::size_t kMinSlots = 1024;  // always a power of two
 
   std::uint64_t& SlotOf(std::uint64_t fingerprint);
   void Grow();

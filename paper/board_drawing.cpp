@@ -23,7 +23,7 @@ constexpr double kRing = 0.145;
 constexpr double kBand = 0.085;
 constexpr double kStroke = 1.0 / 42;  // of rings and crosses
 
-constexpr double kLeastThinLine = 0.35;  // points: finer ones get lost on paper
+constexpr double kMinThinLine = 0.35;  // points: finer ones get lost on paper
 constexpr double kThinLineGrey = 0.55;
 constexpr double kMarkGrey = 0.2;
 
@@ -166,7 +166,7 @@ void Drawing::DrawThinLines() const {
   }
   SetGrey(kThinLineGrey);
   cairo_set_line_cap(context_, CAIRO_LINE_CAP_BUTT);
-  cairo_set_line_width(context_, std::max(kLeastThinLine, kThinLine * side_));
+  cairo_set_line_width(context_, std::max(kMinThinLine, kThinLine * side_));
   cairo_stroke(context_);
 }
 

@@ -11,8 +11,8 @@ namespace {
 
 constexpr double kCodeSide = 106.0;  // of about 100 modules: a third of a millimetre each
 constexpr double kSmallSolution = 74.0;
-constexpr double kLeastDigit = 6.0;
-constexpr double kLeastSolutionDigit = 4.5;
+constexpr double kMinDigit = 6.0;
+constexpr double kMinSolutionDigit = 4.5;
 constexpr double kLargeDigit = 16.0;
 
 // What binders ask for.
@@ -67,7 +67,7 @@ std::string TooSmall(const BookletOptions& options, double digit, double least) 
 }
 
 tl::expected<PageGrid, std::string> FitPuzzles(const BookletOptions& options, Size content) {
-  const double least = options.large ? kLargeDigit : kLeastDigit;
+  const double least = options.large ? kLargeDigit : kMinDigit;
   std::optional<PageGrid> grid = FitGrid(content, options.perPage, NeedsOf(options));
   const double digit = grid ? DigitPoints(grid->boardSide, options) : 0.0;
   if (digit < least) return tl::unexpected(TooSmall(options, digit, least));
@@ -76,7 +76,7 @@ tl::expected<PageGrid, std::string> FitPuzzles(const BookletOptions& options, Si
 
 // As many as are readable, up to 20.
 tl::expected<PageGrid, std::string> FitSolutions(const BookletOptions& options, Size content) {
-  const double least = options.large ? kLargeDigit : kLeastSolutionDigit;
+  const double least = options.large ? kLargeDigit : kMinSolutionDigit;
   for (const int count : {20, 16, 12, 9, 6, 4, 2, 1}) {
     const SlotNeeds needs{.heading = 1.6 * HeadingSize(options, count)};
     std::optional<PageGrid> grid = FitGrid(content, count, needs);

@@ -7,7 +7,7 @@ namespace tessel::paper {
 namespace {
 
 constexpr double kPad = 9.0;  // between a board and what stands under or beside it
-constexpr double kMostGap = 44.0;
+constexpr double kMaxGap = 44.0;
 
 // More boards a page, closer together.
 double LeastGap(int count) {
@@ -62,7 +62,7 @@ struct Spread {
   double step = 0.0;
 };
 Spread SpreadOut(double space, int count, double length, double shareBefore) {
-  const double gap = count > 1 ? std::min(kMostGap, (space - count * length) / (count - 1)) : 0.0;
+  const double gap = count > 1 ? std::min(kMaxGap, (space - count * length) / (count - 1)) : 0.0;
   const double left = space - count * length - (count - 1) * gap;
   return {shareBefore * left, length + gap};
 }

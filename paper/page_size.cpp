@@ -10,8 +10,8 @@ namespace tessel::paper {
 
 namespace {
 
-constexpr double kLeastSide = 20 * kPointsPerMillimetre;
-constexpr double kMostSide = 2000 * kPointsPerMillimetre;
+constexpr double kMinSide = 20 * kPointsPerMillimetre;
+constexpr double kMaxSide = 2000 * kPointsPerMillimetre;
 
 struct Unit {
   std::string_view name;
@@ -102,7 +102,7 @@ tl::expected<Size, std::string> ParsePageSize(std::string_view text) {
                           " is no page size: A4, A5, Letter, Legal, or like 6x9in, 210x297mm");
   }
   const auto [least, most] = std::minmax(size->width, size->height);
-  if (least < kLeastSide || most > kMostSide) {
+  if (least < kMinSide || most > kMaxSide) {
     return tl::unexpected("a page of " + std::string(text) +
                           " is out of range: 20 mm to 2 m each way");
   }

@@ -12,7 +12,7 @@ namespace {
 constexpr double kFooterHeight = 38.0;
 constexpr double kGap = 20.0;           // between panels, and between picture and words
 constexpr double kGoodPicture = 200.0;  // points: marks of 5 points
-constexpr double kLeastPicture = 120.0;
+constexpr double kMinPicture = 120.0;
 constexpr double kPictureShare = 0.52;  // of the width, at most
 constexpr double kLeading = 1.35;
 
@@ -20,7 +20,7 @@ constexpr double kLeading = 1.35;
 void DrawAfter(cairo_t* context, const Fonts& fonts, const BoardPicture& after, const Box& room) {
   const TextStyle caption{Face::kItalic, 8.0, 0.3};
   const double side = std::min(room.width, room.height - 1.5 * caption.size);
-  if (side < kLeastPicture / 2) return;
+  if (side < kMinPicture / 2) return;
   const double top = room.Bottom() - side;
   DrawText(context, fonts, "After it", caption, {room.x, top - 0.5 * caption.size});
   DrawBoard(context, fonts, after, {.side = side}, {room.x, top});
@@ -64,7 +64,7 @@ tl::expected<StoryGrid, std::string> FitPanels(const StoryOptions& options) {
     grid.picture = std::min(widest, grid.panel - kGap);
     if (grid.picture >= std::min(widest, kGoodPicture)) break;
   }
-  if (grid.picture >= kLeastPicture) return grid;
+  if (grid.picture >= kMinPicture) return grid;
   return tl::unexpected(std::string("the page is too small for a board with words beside it"));
 }
 

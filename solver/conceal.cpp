@@ -7,8 +7,8 @@ namespace tessel::solver {
 namespace {
 
 // So many refusals in a row, and the cells are taken in ascending order. The window's numbers.
-constexpr int kMostRefusalsOfSingles = 61;
-constexpr int kMostRefusalsOfPairs = 41;
+constexpr int kMaxRefusalsOfSingles = 61;
+constexpr int kMaxRefusalsOfPairs = 41;
 
 int DrawIndex(RandomStream& random, int n) {
   return static_cast<int>(random.Below(static_cast<unsigned>(n)));
@@ -38,7 +38,7 @@ class Concealment {
 
  private:
   int MostRefusals() const {
-    return rule_ == ConcealRule::kPairs ? kMostRefusalsOfPairs : kMostRefusalsOfSingles;
+    return rule_ == ConcealRule::kPairs ? kMaxRefusalsOfPairs : kMaxRefusalsOfSingles;
   }
 
   CellSet ConcealedWith(int cell) const {

@@ -13,7 +13,7 @@ enum class ConcealRule : std::uint8_t {
 };
 
 // With as many givens left, the window goes no further. A pair may leave one less.
-inline constexpr int kUsualGivens = 24;
+inline constexpr int kDefaultGivens = 24;
 // As many as are needed: then no given can be missed.
 inline constexpr int kMinimalGivens = 0;
 
@@ -21,8 +21,8 @@ inline constexpr int kMinimalGivens = 0;
 // random source leave the same givens as the window. Cells are concealed until no more than
 // `fewest` givens are left, or every cell has been tried.
 Grid Conceal(Solver& solver, const Grid& solution, ConcealRule rule, RandomSource& random,
-             int fewest = kUsualGivens);
+             int fewest = kDefaultGivens);
 Grid Conceal(Solver& solver, const Grid& solution, ConcealRule rule, RandomStream& random,
-             int fewest = kUsualGivens);
+             int fewest = kDefaultGivens);
 
 }  // namespace tessel::solver

@@ -7,7 +7,7 @@
 namespace tessel::solver {
 
 // A cage and a row or column that share two cells or more: at most eight for each cage.
-inline constexpr int kMostIntersections = 96;
+inline constexpr int kMaxIntersections = 96;
 
 struct Tables {
   explicit Tables(const Layout& layout);
@@ -21,11 +21,11 @@ struct Tables {
 
   // Intersections, one a lane, in groups of kLaneCount; unused lanes of the last group are zero and
   // never match. The masks are bits of the cage's lane, or of the line's.
-  alignas(64) std::uint16_t cage[kMostIntersections];        // the cage's lane
-  alignas(64) std::uint16_t line[kMostIntersections];        // the row's or column's lane
-  alignas(64) std::uint16_t shared[kMostIntersections];      // of the cage: cells on the line
-  alignas(64) std::uint16_t restOfCage[kMostIntersections];  // of the cage: the others
-  alignas(64) std::uint16_t restOfLine[kMostIntersections];  // of the line: those off the cage
+  alignas(64) std::uint16_t cage[kMaxIntersections];        // the cage's lane
+  alignas(64) std::uint16_t line[kMaxIntersections];        // the row's or column's lane
+  alignas(64) std::uint16_t shared[kMaxIntersections];      // of the cage: cells on the line
+  alignas(64) std::uint16_t restOfCage[kMaxIntersections];  // of the cage: the others
+  alignas(64) std::uint16_t restOfLine[kMaxIntersections];  // of the line: those off the cage
   int intersectionGroups = 0;
 
  private:

@@ -16,7 +16,7 @@ namespace tessel::tools {
 namespace {
 
 // Of a file that is no file of puzzles, every line would be told.
-constexpr int kMostFaultsTold = 100;
+constexpr int kMaxFaultsTold = 100;
 
 std::string NameOf(const std::string& file) {
   return file == "-" ? "standard input" : file;
@@ -54,8 +54,8 @@ class Visiting {
         ++faults_;
       }
     }
-    if (faults_ > kMostFaultsTold) {
-      std::cerr << "... and " << faults_ - kMostFaultsTold << " more\n";
+    if (faults_ > kMaxFaultsTold) {
+      std::cerr << "... and " << faults_ - kMaxFaultsTold << " more\n";
     }
     return faults_ == 0;
   }
@@ -81,7 +81,7 @@ class Visiting {
   }
 
   void Tell(const std::string& message) {
-    if (++faults_ <= kMostFaultsTold) std::cerr << message << "\n";
+    if (++faults_ <= kMaxFaultsTold) std::cerr << message << "\n";
   }
 
   const PuzzleInput& input_;

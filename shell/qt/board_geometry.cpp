@@ -9,8 +9,8 @@ namespace tessel {
 
 namespace {
 
-constexpr int kLeastSide = 12;
-constexpr double kLeastCaptionPoints = 14.0;
+constexpr int kMinSide = 12;
+constexpr double kMinCaptionPoints = 14.0;
 constexpr double kCaptionShare = 0.36;  // of the cell side, once that is more
 constexpr double kBandShare = 1.45;     // of the caption's size: the caption, its arrow, air
 
@@ -18,9 +18,9 @@ constexpr double kBandShare = 1.45;     // of the caption's size: the caption, i
 
 BoardGeometry::BoardGeometry(QSize area, double scale, double pixelsPerPoint) {
   const int room = std::min(area.width(), area.height());
-  int side = std::max(kLeastSide, room / kSide / kMarksPerLine * kMarksPerLine);
+  int side = std::max(kMinSide, room / kSide / kMarksPerLine * kMarksPerLine);
   TakeSide(side, scale, pixelsPerPoint);
-  while (PanelSide() > room && side > kLeastSide) {
+  while (PanelSide() > room && side > kMinSide) {
     side -= kMarksPerLine;
     TakeSide(side, scale, pixelsPerPoint);
   }
@@ -33,7 +33,7 @@ void BoardGeometry::TakeSide(int side, double scale, double pixelsPerPoint) {
   border_ = std::max(qRound(3 * scale), side / 14);
   line_ = std::max(1, qFloor(scale));
   captionPixels_ =
-      std::max(qCeil(kLeastCaptionPoints * pixelsPerPoint), qRound(kCaptionShare * side));
+      std::max(qCeil(kMinCaptionPoints * pixelsPerPoint), qRound(kCaptionShare * side));
   band_ = qRound(kBandShare * captionPixels_);
   margin_ = border_ + qRound(3 * scale);
 }

@@ -76,7 +76,7 @@ BoardPainter::BoardPainter(const Form& form, const GameState& state, const Board
 
 // Outlines lie under the text, so that they never hide a mark, and borders over everything.
 void BoardPainter::Paint(QPainter& painter, const QRegion& region,
-                         const BoardPointers& pointers) const {
+                         const BoardHighlights& highlights) const {
   painter.setClipRegion(region);
   if (!region.subtracted(geometry_.BoardRect()).isEmpty()) PaintCaptions(painter);
   const auto touched = [&](int cell) { return region.intersects(geometry_.CellRect(cell)); };
@@ -85,7 +85,7 @@ void BoardPainter::Paint(QPainter& painter, const QRegion& region,
     if (touched(cell)) painter.fillRect(geometry_.CellRect(cell), ToColour(ground));
   }
   PaintLines(painter, region, Line::kThin);
-  PaintPointers(painter, pointers);
+  PaintHighlights(painter, highlights);
   for (int cell = 0; cell < kCellCount; ++cell) {
     if (touched(cell)) PaintText(painter, cell);
   }
@@ -166,10 +166,10 @@ void BoardPainter::PaintEdges(QPainter& painter, int cell, Line line) const {
   const int before = border ? width / 2 : 0;
   const int overlap = border ? width : 0;
   const QColor colour = border ? QColor(Qt::black) : kInnerLine;
-  const auto upright = [&](int x) {
+  const auto drawVertical = [&](int x) {
     painter.fillRect(x - before, place.top() - before, width, place.height() + overlap, colour);
   };
-  const auto level = [&](int y) {
+  const auto drawHorizontal = [&](int y) {
     painter.fillRect(place.left() - before, y - before, place.width() + overlap, width, colour);
   };
   const auto sameGround = [this](int a, int b) {
@@ -177,10 +177,10 @@ void BoardPainter::PaintEdges(QPainter& painter, int cell, Line line) const {
   };
   const auto isBorder = [&](CellSide side) { return IsWall(cell, side, sameGround); };
   const auto atFrame = [&](CellSide side) { return !NeighbourBeyond(cell, side); };
-  if (isBorder(CellSide::kLeft) == border) upright(place.left());
-  if (isBorder(CellSide::kTop) == border) level(place.top());
-  if (border && atFrame(CellSide::kRight)) upright(place.left() + place.width());
-  if (border && atFrame(CellSide::kBottom)) level(place.top() + place.height());
+  if (isBorder(CellSide::kLeft) == border) drawVertical(place.left());
+  if (isBorder(CellSide::kTop) == border) drawHorizontal(place.top());
+  if (border && atFrame(CellSide::kRight)) drawVertical(place.left() + place.width());
+  if (border && atFrame(CellSide::kBottom)) drawHorizontal(place.top() + place.height());
 }
 
 QRegion BoardPainter::RegionOf(const auto& contains) const {
@@ -193,7 +193,7 @@ QRegion BoardPainter::RegionOf(const auto& contains) const {
 
 // Outlines only: a tint would uncover the marks that hide in the colour of their cage. Black and
 // white side by side show on every cage colour.
-void BoardPainter::PaintPointers(QPainter& painter, const BoardPointers& pointers) const {
+void BoardPainter::PaintHighlights(QPainter& painter, const BoardHighlights& highlights) const {
   const int line = geometry_.LineWidth();
   const int inside = (geometry_.BorderWidth() + 1) / 2;
   const auto outline = [&](const QRegion& cells, int width, const QColor& outer,
@@ -201,8 +201,8 @@ void BoardPainter::PaintPointers(QPainter& painter, const BoardPointers& pointer
     FillRegion(painter, Ring(cells, inside, inside + width), outer);
     FillRegion(painter, Ring(cells, inside + width, inside + width + line), inner);
   };
-  if (pointers.active) {
-    const int active = *pointers.active;
+  if (highlights.active) {
+    const int active = *highlights.active;
     const DisplayedCell& look = form_.Cell(active);
     outline(RegionOf([&](int cell) { return RowOf(cell) == RowOf(active); }), line, Qt::white,
             Qt::black);
@@ -216,8 +216,8 @@ void BoardPainter::PaintPointers(QPainter& painter, const BoardPointers& pointer
     }
     outline(geometry_.CellRect(active), 2 * line, Qt::white, Qt::black);
   }
-  if (pointers.focused) {
-    outline(geometry_.CellRect(*pointers.focused), 3 * line, kFocusRing, Qt::white);
+  if (highlights.focused) {
+    outline(geometry_.CellRect(*highlights.focused), 3 * line, kFocusRing, Qt::white);
   }
 }
 

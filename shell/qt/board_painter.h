@@ -14,7 +14,7 @@ class QPainter;
 namespace tessel {
 
 // Cells that the player points at, each 0..80 if there is one.
-struct BoardPointers {
+struct BoardHighlights {
   std::optional<int> active;   // outlined with its cage, row and column
   std::optional<int> focused;  // wears the keyboard's focus ring
 };
@@ -32,7 +32,7 @@ class BoardPainter {
                const QFont& font);
 
   // Paints the parts that meet `region`. The painter's coordinates are the geometry's.
-  void Paint(QPainter& painter, const QRegion& region, const BoardPointers& pointers) const;
+  void Paint(QPainter& painter, const QRegion& region, const BoardHighlights& highlights) const;
 
  private:
   // Between two cells of one ground, or between two grounds and round the board.
@@ -46,7 +46,7 @@ class BoardPainter {
   void PaintLines(QPainter& painter, const QRegion& region, Line line) const;
   void PaintEdges(QPainter& painter, int cell, Line line) const;
   QRegion RegionOf(const auto& contains) const;
-  void PaintPointers(QPainter& painter, const BoardPointers& pointers) const;
+  void PaintHighlights(QPainter& painter, const BoardHighlights& highlights) const;
 
   const Form& form_;
   const GameState& state_;

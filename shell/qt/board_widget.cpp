@@ -12,8 +12,8 @@ namespace tessel {
 
 namespace {
 
-constexpr int kLeastBoard = 240;
-constexpr int kUsualBoard = 560;
+constexpr int kMinBoard = 240;
+constexpr int kDefaultBoard = 560;
 
 std::optional<MouseButton> ButtonOf(Qt::MouseButton pressed) {
   if (pressed == Qt::LeftButton) return MouseButton::kLeft;
@@ -64,11 +64,11 @@ BoardWidget::BoardWidget(QWidget* parent) : QWidget(parent) {
 BoardWidget::~BoardWidget() = default;
 
 QSize BoardWidget::sizeHint() const {
-  return {kUsualBoard, kUsualBoard};
+  return {kDefaultBoard, kDefaultBoard};
 }
 
 QSize BoardWidget::minimumSizeHint() const {
-  return {kLeastBoard, kLeastBoard};
+  return {kMinBoard, kMinBoard};
 }
 
 void BoardWidget::SetSource(const Form& form, const GameState& state) {
@@ -122,11 +122,11 @@ void BoardWidget::paintEvent(QPaintEvent* event) {
   for (const QRect& part : event->region()) {
     region += QRectF(QPointF(part.topLeft()) * scale, QSizeF(part.size()) * scale).toAlignedRect();
   }
-  BoardPointers pointers;
-  if (hasFocus()) pointers.active = pointers.focused = focusedCell_;
-  if (pointedCell_) pointers.active = pointedCell_;
+  BoardHighlights highlights;
+  if (hasFocus()) highlights.active = highlights.focused = focusedCell_;
+  if (hoveredCell_) highlights.active = hoveredCell_;
   const BoardGeometry geometry = Geometry();
-  BoardPainter(*form_, *state_, geometry, font()).Paint(painter, region, pointers);
+  BoardPainter(*form_, *state_, geometry, font()).Paint(painter, region, highlights);
 }
 
 void BoardWidget::mousePressEvent(QMouseEvent* event) {
@@ -146,11 +146,11 @@ void BoardWidget::mouseReleaseEvent(QMouseEvent* event) {
 
 void BoardWidget::mouseMoveEvent(QMouseEvent* event) {
   const auto point = PointAt(event->position());
-  PointAtCell(point ? std::optional(point->cell) : std::nullopt);
+  SetHoveredCell(point ? std::optional(point->cell) : std::nullopt);
 }
 
 void BoardWidget::leaveEvent(QEvent*) {
-  PointAtCell(std::nullopt);
+  SetHoveredCell(std::nullopt);
 }
 
 void BoardWidget::focusInEvent(QFocusEvent*) {
@@ -162,9 +162,9 @@ void BoardWidget::focusOutEvent(QFocusEvent*) {
   update();
 }
 
-void BoardWidget::PointAtCell(std::optional<int> cell) {
-  if (cell == pointedCell_) return;
-  pointedCell_ = cell;
+void BoardWidget::SetHoveredCell(std::optional<int> cell) {
+  if (cell == hoveredCell_) return;
+  hoveredCell_ = cell;
   update();
 }
 
@@ -182,7 +182,7 @@ void BoardWidget::keyPressEvent(QKeyEvent* event) {
 bool BoardWidget::MoveFocus(int key) {
   const auto step = StepOf(key);
   if (!step) return false;
-  PointAtCell(std::nullopt);
+  SetHoveredCell(std::nullopt);
   FocusCell(CellAt(std::clamp(RowOf(focusedCell_) + step->rows, 0, kSide - 1),
                    std::clamp(ColumnOf(focusedCell_) + step->columns, 0, kSide - 1)));
   return true;
@@ -199,7 +199,7 @@ bool BoardWidget::ActOnKey(const QKeyEvent& event) {
   if (event.modifiers().testAnyFlags(Qt::AltModifier | Qt::MetaModifier)) return false;
   if (!isDelete && !isInsert && !isDigit) return false;
   if (event.isAutoRepeat()) return true;
-  PointAtCell(std::nullopt);
+  SetHoveredCell(std::nullopt);
   if (isDelete) {
     const int digit = form_ == nullptr ? 0 : form_->Cell(focusedCell_).text;
     if (digit != 0) ReleaseOnMark(digit, MouseButton::kRight);

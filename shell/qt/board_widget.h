@@ -55,7 +55,7 @@ class BoardWidget final : public QWidget {
  private:
   std::optional<CellPoint> PointAt(QPointF position) const;
   QPointF PixelShift() const;
-  void PointAtCell(std::optional<int> cell);
+  void SetHoveredCell(std::optional<int> cell);
   bool MoveFocus(int key);
   bool ActOnKey(const QKeyEvent& event);
   void ReleaseOnMark(int digit, MouseButton button);
@@ -63,7 +63,7 @@ class BoardWidget final : public QWidget {
   const Form* form_ = nullptr;
   const GameState* state_ = nullptr;
   int focusedCell_ = kCentreCell;
-  std::optional<int> pointedCell_;  // by the mouse, until a key moves the focus
+  std::optional<int> hoveredCell_;  // by the mouse, until a key moves the focus
 };
 
 }  // namespace tessel

@@ -56,7 +56,7 @@ QGridLayout* LayOut(QWidget* parent, int margin, int spacing, const std::vector<
 }
 
 // Gives the hint that font, and the height that a long hint takes in it.
-void FitHint(QLabel& label, const QFont& font, int width) {
+void ResizeHintLabel(QLabel& label, const QFont& font, int width) {
   label.setFont(font);
   const QRect room(0, 0, width - 2 * kHintPadding, QWIDGETSIZE_MAX);
   const QRect text = QFontMetrics(font).boundingRect(room, Qt::TextWordWrap, kLongHint);
@@ -181,7 +181,7 @@ void ControlPanel::Measure() {
   for (const Arrangement arrangement : {Arrangement::kBelow, Arrangement::kBeside}) {
     arrangement_ = arrangement == Arrangement::kBelow ? Arrangement::kBeside : Arrangement::kBelow;
     Arrange(arrangement);
-    room_[IndexOf(arrangement)] = layout()->totalSizeHint();
+    sizes_[IndexOf(arrangement)] = layout()->totalSizeHint();
   }
 }
 
@@ -220,7 +220,7 @@ void ControlPanel::ArrangeBeside() {
           {help_, 3, 0},
           {Of(Button::CommandExit), 3, 1}})
       ->setRowStretch(2, 1);
-  FitHint(*textHint_, Enlarged(font()), kHintWidthBeside);
+  ResizeHintLabel(*textHint_, Enlarged(font()), kHintWidthBeside);
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
 }
 
@@ -246,7 +246,7 @@ void ControlPanel::ArrangeBelow() {
           {textHint_, 0, 2, 1, 3}})
       ->setColumnStretch(2, 1);
   LayOut(this, 0, kTightSpacing, {{generation_, 0, 0}, {solveButtons_, 1, 0}});
-  FitHint(*textHint_, font(), kHintWidthBelow);
+  ResizeHintLabel(*textHint_, font(), kHintWidthBelow);
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
 

@@ -28,7 +28,7 @@ class ControlPanel final : public QWidget {
 
   void Arrange(Arrangement arrangement);
   // The room that the panel takes in that arrangement, whichever it has now.
-  QSize RoomFor(Arrangement arrangement) const { return room_[IndexOf(arrangement)]; }
+  QSize SizeFor(Arrangement arrangement) const { return sizes_[IndexOf(arrangement)]; }
 
   // Null for the spare button, which is not shown.
   QPushButton* Of(Button button) const { return buttons_[tessel::IndexOf(button)]; }
@@ -68,7 +68,7 @@ class ControlPanel final : public QWidget {
   QFrame* solveButtons_ = nullptr;
   QLabel* textHint_ = nullptr;
   Arrangement arrangement_ = Arrangement::kBeside;
-  std::array<QSize, 2> room_;
+  std::array<QSize, 2> sizes_;
   std::optional<Button> running_;  // the button that is marked so
 };
 

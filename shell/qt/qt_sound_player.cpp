@@ -18,7 +18,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto kLatestStart = 500ms;
+constexpr auto kMaxStartDelay = 500ms;
 
 // Neither keeps open what reads our output nor prints into it.
 void LeaveStandardStreams() {
@@ -64,7 +64,7 @@ std::int32_t QtSoundPlayer::Load(const std::string& path) {
 
 void QtSoundPlayer::Play(std::int32_t id) {
   if (id < 0 || id >= count_) return;
-  const PlayOrder play{id, std::chrono::steady_clock::now() + kLatestStart};
+  const PlayOrder play{id, std::chrono::steady_clock::now() + kMaxStartDelay};
   std::string order(1, kPlayOrder);
   order.append(reinterpret_cast<const char*>(&play), sizeof play);
   Send(order);

@@ -12,7 +12,7 @@ namespace tessel {
 
 namespace {
 
-constexpr std::uintmax_t kLargestFile = 4 << 20;
+constexpr std::uintmax_t kMaxFileBytes = 4 << 20;
 
 using Name = std::array<char, 4>;
 
@@ -77,7 +77,7 @@ bool IsSoundFile(const std::string& path) {
   // Only a regular file: a pipe would hold up whoever opens it.
   if (!std::filesystem::is_regular_file(path, error)) return false;
   const auto size = std::filesystem::file_size(path, error);
-  if (error || size > kLargestFile) return false;
+  if (error || size > kMaxFileBytes) return false;
   std::ifstream file(path, std::ios::binary);
   return HoldsSamples(file, static_cast<std::streamoff>(size));
 }

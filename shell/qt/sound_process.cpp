@@ -25,7 +25,7 @@ namespace {
 class Speaker final : public QObject {
  public:
   Speaker() {
-    connect(&devices_, &QMediaDevices::audioOutputsChanged, this, [this] { FollowOutput(); });
+    connect(&devices_, &QMediaDevices::audioOutputsChanged, this, [this] { SwitchOutput(); });
   }
   void Add(const QUrl& source) {
     sources_.push_back(source);
@@ -37,7 +37,7 @@ class Speaker final : public QObject {
 
  private:
   // An effect stays with the output that it was made for: a new output needs new effects.
-  void FollowOutput() {
+  void SwitchOutput() {
     effects_.clear();
     output_ = QMediaDevices::defaultAudioOutput();
     if (output_.isNull()) return;

@@ -14,8 +14,8 @@ namespace tessel {
 
 namespace {
 
-constexpr QSize kLeastWindow(480, 520);
-constexpr QSize kUsualWindow(900, 640);
+constexpr QSize kMinWindow(480, 520);
+constexpr QSize kDefaultWindow(900, 640);
 constexpr int kWidthForNotice = 860;  // a path and the system's words fit into one line
 constexpr int kWideMargin = 8;
 constexpr int kTightMargin = 4;  // where the panel takes height from the board
@@ -29,7 +29,7 @@ constexpr std::chrono::milliseconds kFrameTime{3};
 TesselWindow::TesselWindow()
     : board_(new BoardWidget(this)), panel_(new ControlPanel(this)), notice_(new QLabel(this)) {
   setWindowIcon(AppIcon());
-  setMinimumSize(kLeastWindow);
+  setMinimumSize(kMinWindow);
   // Styles that show the focus only after a Tab key shall always show it.
   connect(qApp, &QApplication::focusChanged, this,
           [this] { setAttribute(Qt::WA_KeyboardFocusChange); });
@@ -62,7 +62,7 @@ void TesselWindow::BuildLayout() {
   column->addWidget(notice_);
   const QList<QWidget*> order = panel_->GenerationControls() << board_ << panel_->SolveControls();
   for (qsizetype i = 1; i < order.size(); ++i) setTabOrder(order[i - 1], order[i]);
-  resize(kUsualWindow);
+  resize(kDefaultWindow);
 }
 
 void TesselWindow::Attach(Tessel_Main& logic) {
@@ -200,8 +200,8 @@ void TesselWindow::resizeEvent(QResizeEvent* event) {
 // Whichever arrangement leaves the larger board.
 void TesselWindow::ArrangePanel() {
   using Arrangement = ControlPanel::Arrangement;
-  const QSize beside = size() - QSize(panel_->RoomFor(Arrangement::kBeside).width(), 0);
-  const QSize below = size() - QSize(0, panel_->RoomFor(Arrangement::kBelow).height());
+  const QSize beside = size() - QSize(panel_->SizeFor(Arrangement::kBeside).width(), 0);
+  const QSize below = size() - QSize(0, panel_->SizeFor(Arrangement::kBelow).height());
   const bool isBeside =
       std::min(beside.width(), beside.height()) >= std::min(below.width(), below.height());
   panel_->Arrange(isBeside ? Arrangement::kBeside : Arrangement::kBelow);

@@ -9,8 +9,8 @@
 namespace tessel {
 namespace {
 
-constexpr float kLargestBelowOne = 0x0.FFFFFFp0F;
-static_assert(kLargestBelowOne < 1.0F);
+constexpr float kMaxBelowOne = 0x0.FFFFFFp0F;
+static_assert(kMaxBelowOne < 1.0F);
 
 // The seeds whose first draw has only set bits, and only clear ones.
 constexpr std::uint64_t kSeedOfLargest = 0x31628AF67B2131AB;
@@ -62,12 +62,12 @@ TEST(SeededRandom, StaysBelowOneAndFillsItsTenths) {
 }
 
 TEST(SeededRandom, ReachesBothEndsOfItsRange) {
-  EXPECT_EQ(SeededRandom(kSeedOfLargest).Next(), kLargestBelowOne);
+  EXPECT_EQ(SeededRandom(kSeedOfLargest).Next(), kMaxBelowOne);
   EXPECT_EQ(SeededRandom(kSeedOfZero).Next(), 0.0F);
 }
 
 TEST(DrawIndex, TheLargestNumberDrawsTheLastIndex) {
-  FixedRandom largest(kLargestBelowOne);
+  FixedRandom largest(kMaxBelowOne);
   for (int n = 1; n <= 100'000; ++n) ASSERT_EQ(DrawIndex(largest, n), n - 1);
   FixedRandom zero(0.0F);
   EXPECT_EQ(DrawIndex(zero, 81), 0);

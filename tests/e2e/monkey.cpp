@@ -28,12 +28,12 @@ using Clock = std::chrono::steady_clock;
 double minutes = 10;
 std::uint64_t seed = 1;
 
-constexpr auto kLatestRepaint = 1s;
+constexpr auto kMaxRepaintDelay = 1s;
 constexpr int kActionsBetweenLooks = 60;
 constexpr int kActionsToWarmUp = 240;
-constexpr long kMostGrowth = 24 * 1024;  // kilobytes since the program was warm
+constexpr long kMaxGrowth = 24 * 1024;  // kilobytes since the program was warm
 constexpr auto kIdleTime = 3s;
-constexpr auto kMostIdleWork = 90ms;  // of processor time in that time
+constexpr auto kMaxIdleWork = 90ms;  // of processor time in that time
 
 constexpr const char* kControls[] = {
     "CommandSaw",     "CommandGo",        "CommandConceal",    "CommandSolve",   "CommandHint",
@@ -218,7 +218,7 @@ testing::AssertionResult Monkey::RepaintsInTime() {
   Eventually([&] { return !shows(); });
   const auto time = Clock::now() - start;
   slowestRepaint_ = std::max(slowestRepaint_, time);
-  if (time <= kLatestRepaint) return testing::AssertionSuccess();
+  if (time <= kMaxRepaintDelay) return testing::AssertionSuccess();
   return testing::AssertionFailure() << "repainted after " << time / 1ms << " ms";
 }
 
@@ -226,7 +226,7 @@ testing::AssertionResult Monkey::KeepsItsMemory() {
   lastKilobytes_ = UseOf(user_->Program().Id()).kilobytes;
   if (actionsOfThisRun_ < kActionsToWarmUp) return testing::AssertionSuccess();
   if (!warmKilobytes_) warmKilobytes_ = lastKilobytes_;
-  if (lastKilobytes_ - *warmKilobytes_ <= kMostGrowth) return testing::AssertionSuccess();
+  if (lastKilobytes_ - *warmKilobytes_ <= kMaxGrowth) return testing::AssertionSuccess();
   return testing::AssertionFailure()
          << "grew from " << *warmKilobytes_ << " to " << lastKilobytes_ << " kB";
 }
@@ -239,7 +239,7 @@ testing::AssertionResult Monkey::RestsWhileIdle() {
   const auto work = UseOf(user_->Program().Id()).processorTime - before;
   mostIdleWork_ = std::max(mostIdleWork_, work);
   ++idleTimes_;
-  if (work <= kMostIdleWork) return testing::AssertionSuccess();
+  if (work <= kMaxIdleWork) return testing::AssertionSuccess();
   return testing::AssertionFailure() << "worked " << work.count() << " ms while idle";
 }
 

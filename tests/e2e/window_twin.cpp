@@ -60,11 +60,11 @@ QImage WindowTwin::Board(const ExpectedBoard& board, std::optional<int> focusedC
   QImage image(BoardOf().size(), QImage::Format_RGB32);
   image.fill(window_.palette().color(QPalette::Window));
   QPainter painter(&image);
-  BoardPointers pointers;
-  pointers.active = pointers.focused = focusedCell;
+  BoardHighlights highlights;
+  highlights.active = highlights.focused = focusedCell;
   const BoardGeometry geometry = BoardOf().Geometry();
   BoardPainter(board.form(), board.state(), geometry, BoardOf().font())
-      .Paint(painter, image.rect(), pointers);
+      .Paint(painter, image.rect(), highlights);
   return image;
 }
 

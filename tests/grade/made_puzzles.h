@@ -34,12 +34,12 @@ class PuzzleMaker {
       engine_.SawAnyLayout(kind, random.Next());
       const Layout& layout = engine_.layout;
       solver_.Use(layout);
-      const solver::Filling filling = solver_.Fill(random, kMostNodes);
+      const solver::Filling filling = solver_.Fill(random, kMaxNodes);
       if (filling.answer == solver::Answer::kYes) return {layout, {}, filling.grid};
     }
   }
 
-  static constexpr std::uint64_t kMostNodes = 100'000;
+  static constexpr std::uint64_t kMaxNodes = 100'000;
 
   bench::Engine engine_;
   solver::Solver solver_{Layout::Regular()};

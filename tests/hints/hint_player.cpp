@@ -10,7 +10,7 @@ namespace tessel {
 namespace {
 
 constexpr char kNoMore[] = "No more logical hints";
-constexpr int kMostHints = 2000;
+constexpr int kMaxHints = 2000;
 
 std::vector<int> RowCells(int row) {
   std::vector<int> cells;
@@ -83,7 +83,7 @@ std::string NameOf(HintCode kind, const std::string& sentence) {
 }  // namespace
 
 bool HintPlayer::Play() {
-  for (int hints = 0; hints < kMostHints; ++hints) {
+  for (int hints = 0; hints < kMaxHints; ++hints) {
     if (!program_.form().Of(Button::CommandHint).enabled) return true;
     if (asksSpecialPass) AskSpecialPass();
     program_.main.Click(Button::CommandHint);

@@ -195,11 +195,12 @@ TEST_P(BoardPainterAt, PaintingAPartEqualsPaintingAll) {
   EXPECT_EQ(image, board.Paint());
 }
 
-TEST_P(BoardPainterAt, PointersOutlineAndDoNotTint) {
+TEST_P(BoardPainterAt, HighlightsOutlineAndDoNotTint) {
   board.PaintRegularCages();
   const QImage plain = board.Paint();
-  for (const BoardPointers& pointers : {BoardPointers{kCentreCell, {}}, BoardPointers{40, 40}}) {
-    const QImage image = board.Paint(pointers);
+  for (const BoardHighlights& highlights :
+       {BoardHighlights{kCentreCell, {}}, BoardHighlights{40, 40}}) {
+    const QImage image = board.Paint(highlights);
     EXPECT_NE(image, plain);
     for (int cell = 0; cell < kCellCount; ++cell) {
       const int away = board.geometry.CellSide() / 3;

@@ -50,16 +50,16 @@ struct PaintedBoard {
     }
   }
 
-  QImage Paint(const BoardPointers& pointers = {}) const {
+  QImage Paint(const BoardHighlights& highlights = {}) const {
     QImage image(geometry.PanelRect().bottomRight().x() + 1,
                  geometry.PanelRect().bottomRight().y() + 1, QImage::Format_RGB32);
     image.fill(Qt::gray);
-    Paint(image, image.rect(), pointers);
+    Paint(image, image.rect(), highlights);
     return image;
   }
-  void Paint(QImage& image, const QRegion& region, const BoardPointers& pointers = {}) const {
+  void Paint(QImage& image, const QRegion& region, const BoardHighlights& highlights = {}) const {
     QPainter painter(&image);
-    BoardPainter(form, state, geometry, QGuiApplication::font()).Paint(painter, region, pointers);
+    BoardPainter(form, state, geometry, QGuiApplication::font()).Paint(painter, region, highlights);
   }
   // The part of the cell that borders and lines do not reach.
   QRect Interior(int cell) const {

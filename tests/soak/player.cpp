@@ -14,7 +14,7 @@ namespace tessel {
 
 namespace {
 
-constexpr int kMostRepairs = 3000;
+constexpr int kMaxRepairs = 3000;
 constexpr int kStopOneIn = 8;
 
 oracle::Layout OracleLayoutOf(const GameState& state) {
@@ -126,7 +126,7 @@ void Player::MakeMistakes() {
 }
 
 void Player::RepairMistakes() {
-  for (int repairs = 0; repairs < kMostRepairs; ++repairs) {
+  for (int repairs = 0; repairs < kMaxRepairs; ++repairs) {
     if (!Repair(AskHint())) return;
     ++made.repairs;
   }

@@ -16,9 +16,9 @@ using SteadyClock = std::chrono::steady_clock;
 
 constexpr long kEventsOfASession = 2'000;
 #ifdef __SANITIZE_ADDRESS__
-constexpr long kMostGrowth = 1024 * 1024;  // freed memory is kept back
+constexpr long kMaxGrowth = 1024 * 1024;  // freed memory is kept back
 #else
-constexpr long kMostGrowth = 4'096;  // kilobytes, after the first tenth of the time
+constexpr long kMaxGrowth = 4'096;  // kilobytes, after the first tenth of the time
 #endif
 
 class Soak {
@@ -38,7 +38,7 @@ class Soak {
       if (Passed() >= nextReport_ && Passed() < 1) Report(player, user);
     }
     Report(player, user);
-    EXPECT_LE(ResidentKilobytes() - settled_, kMostGrowth) << "kilobytes of growth";
+    EXPECT_LE(ResidentKilobytes() - settled_, kMaxGrowth) << "kilobytes of growth";
   }
 
  private:

@@ -81,10 +81,10 @@ class GridSearch {
 
   bool Fill(int filled = 0) {
     if (filled == 81) return true;
-    if (++visits_ > kMostVisits) return false;
+    if (++visits_ > kMaxVisits) return false;
     const int cell = TightestCell();
     int open = Open(cell);
-    while (open != 0 && visits_ <= kMostVisits) {
+    while (open != 0 && visits_ <= kMaxVisits) {
       const int digit = DrawDigit(open);
       open &= ~(1 << (digit - 1));
       Toggle(cell, digit);
@@ -99,7 +99,7 @@ class GridSearch {
   Grid grid{};
 
  private:
-  static constexpr int kMostVisits = 5000;
+  static constexpr int kMaxVisits = 5000;
 
   int Open(int cell) const {
     return 511 & ~(rows_[cell / 9] | columns_[cell % 9] | cageDigits_[cages_[cell] - 1]);
