@@ -70,7 +70,7 @@ void Tessel_Main::Toggle(CheckBox box) {
 }
 
 void Tessel_Main::Grid_MouseUp(int cell, MouseButton button, int /*shift*/, double x, double y) {
-  if (form_.Running() || asking_ || cell < 0 || cell >= kCellCount) return;
+  if (!IsIdle() || cell < 0 || cell >= kCellCount) return;
   solving_.Grid_MouseUp(cell, button, {x, y});
 }
 

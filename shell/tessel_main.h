@@ -49,6 +49,12 @@ class Tessel_Main {
   // The request to close the window; true when the window may close.
   bool Form_QueryUnload();
 
+  // Whether a press of the control would act now.
+  bool AcceptsInput(Button button) const;
+  bool AcceptsInput(CheckBox box) const;
+  // Whether neither a command runs nor a question is open.
+  bool IsIdle() const { return !asking_ && !form_.Running(); }
+
   const Form& form() const { return form_; }
   const GameState& state() const { return state_; }
 
@@ -58,8 +64,6 @@ class Tessel_Main {
   void CommandQuit_Click();
   void CommandExit_Click();
   void Command1_Click();
-  bool AcceptsInput(Button button) const;
-  bool AcceptsInput(CheckBox box) const;
   bool SolveFrameAcceptsInput() const;
   bool LeaveGame();
   bool Ask(const char* question, const char* title);

@@ -14,8 +14,8 @@ namespace tessel {
 
 namespace {
 
-constexpr QSize kMinWindow(480, 520);
-constexpr QSize kDefaultWindow(900, 640);
+constexpr QSize kMinWindow(480, 542);
+constexpr QSize kDefaultWindow(900, 662);
 constexpr int kWidthForNotice = 860;  // a path and the system's words fit into one line
 constexpr int kWideMargin = 8;
 constexpr int kTightMargin = 4;  // where the panel takes height from the board
@@ -27,7 +27,10 @@ constexpr std::chrono::milliseconds kFrameTime{3};
 }  // namespace
 
 TesselWindow::TesselWindow()
-    : board_(new BoardWidget(this)), panel_(new ControlPanel(this)), notice_(new QLabel(this)) {
+    : menu_(new MenuBar(this)),
+      board_(new BoardWidget(this)),
+      panel_(new ControlPanel(this)),
+      notice_(new QLabel(this)) {
   setWindowIcon(AppIcon());
   setMinimumSize(kMinWindow);
   // Styles that show the focus only after a Tab key shall always show it.
@@ -55,6 +58,7 @@ TesselWindow::TesselWindow()
 
 void TesselWindow::BuildLayout() {
   auto* column = new QVBoxLayout(this);
+  column->setMenuBar(menu_);
   boardAndPanel_ = new QBoxLayout(QBoxLayout::LeftToRight);
   boardAndPanel_->addWidget(board_, 1);
   boardAndPanel_->addWidget(panel_);
@@ -67,10 +71,20 @@ void TesselWindow::BuildLayout() {
 
 void TesselWindow::Attach(Tessel_Main& logic) {
   logic_ = &logic;
+  BuildMenus();
   board_->SetSource(logic.form(), logic.state());
   changedControls_ = true;
   Sync();
   panel_->Of(Button::CommandSaw)->setFocus(Qt::TabFocusReason);
+}
+
+void TesselWindow::BuildMenus() {
+  menu_->SetOpen([this] { return logic_->IsIdle(); });
+  menu_->Connect(
+      Entry::kExit, [this] { panel_->Of(Button::CommandExit)->click(); },
+      [this] { return logic_->AcceptsInput(Button::CommandExit); });
+  menu_->Connect(Entry::kHelp, [this] { OpenHelp(); });
+  gameActions_.emplace(*menu_, *panel_, *logic_);
 }
 
 void TesselWindow::Show() {
@@ -144,6 +158,7 @@ void TesselWindow::Sync() {
   changedCells_.reset();
   if (std::exchange(changedCaptions_, false)) board_->UpdateCaptions();
   if (std::exchange(changedControls_, false)) SyncControls();
+  menu_->Update();
 }
 
 // A disabled control hands the focus on: to the running command's "Stop", or to the board. Qt would
@@ -178,6 +193,7 @@ void TesselWindow::Press(Button button) {
 
 void TesselWindow::closeEvent(QCloseEvent* event) {
   event->setAccepted(logic_ == nullptr || logic_->Form_QueryUnload());
+  menu_->Update();
 }
 
 // Enter presses the focused button, as Space does by itself. A held key presses it once: the second
@@ -200,8 +216,9 @@ void TesselWindow::resizeEvent(QResizeEvent* event) {
 // Whichever arrangement leaves the larger board.
 void TesselWindow::ArrangePanel() {
   using Arrangement = ControlPanel::Arrangement;
-  const QSize beside = size() - QSize(panel_->SizeFor(Arrangement::kBeside).width(), 0);
-  const QSize below = size() - QSize(0, panel_->SizeFor(Arrangement::kBelow).height());
+  const QSize room = size() - QSize(0, menu_->sizeHint().height());
+  const QSize beside = room - QSize(panel_->SizeFor(Arrangement::kBeside).width(), 0);
+  const QSize below = room - QSize(0, panel_->SizeFor(Arrangement::kBelow).height());
   const bool isBeside =
       std::min(beside.width(), beside.height()) >= std::min(below.width(), below.height());
   panel_->Arrange(isBeside ? Arrangement::kBeside : Arrangement::kBelow);

@@ -3,11 +3,14 @@
 
 #include <QWidget>
 #include <bitset>
+#include <optional>
 
 #include "core/view.h"
 #include "shell/qt/board_widget.h"
 #include "shell/qt/control_panel.h"
 #include "shell/qt/event_pump.h"
+#include "shell/qt/game_actions.h"
+#include "shell/qt/menu_bar.h"
 #include "shell/tessel_main.h"
 
 class QBoxLayout;
@@ -41,6 +44,7 @@ class TesselWindow final : public QWidget, public View {
 
  private:
   void BuildLayout();
+  void BuildMenus();
   void Press(Button button);
   void Sync();
   void SyncControls();
@@ -48,11 +52,13 @@ class TesselWindow final : public QWidget, public View {
   void OpenHelp();
 
   Tessel_Main* logic_ = nullptr;
+  MenuBar* menu_;
   BoardWidget* board_;
   ControlPanel* panel_;
   QLabel* notice_;
   QBoxLayout* boardAndPanel_ = nullptr;
   HelpDialog* help_ = nullptr;
+  std::optional<GameActions> gameActions_;
 
   // What has changed in the form since the last Sync.
   std::bitset<kCellCount> changedCells_;

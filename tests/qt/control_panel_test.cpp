@@ -66,7 +66,8 @@ TEST(ControlPanel, EveryControlHasItsOwnShortcutAndNamesIt) {
     EXPECT_TRUE(keys.insert(shortcut->key().toString(QKeySequence::NativeText)).second);
   }
   std::set<QString> named;
-  for (const QAbstractButton* control : program.window.findChildren<QAbstractButton*>()) {
+  const auto* panel = program.window.findChild<ControlPanel*>();
+  for (const QAbstractButton* control : panel->findChildren<QAbstractButton*>()) {
     EXPECT_FALSE(control->text().contains('&'));
     named.insert(control->toolTip().split('\n').last());
   }
@@ -97,7 +98,7 @@ TEST(ControlPanel, BoxesFollowTheForm) {
 }
 
 TEST(ControlPanel, NothingJumpsWhenTheSolvingControlsAppear) {
-  for (const QSize size : {QSize(480, 520), QSize(900, 640), QSize(640, 1000)}) {
+  for (const QSize size : {QSize(480, 542), QSize(900, 662), QSize(640, 1022)}) {
     WindowProgram program(size);
     program.MakePuzzle();
     QList<QWidget*> shown{program.Find<QFrame>("SolveButtons")};
@@ -125,7 +126,7 @@ TEST(ControlPanel, NothingJumpsWhenTheSolvingControlsAppear) {
 
 TEST(ControlPanel, ControlsNeverOverlapOrLeaveTheWindow) {
   for (const QSize size :
-       {QSize(480, 520), QSize(700, 520), QSize(900, 640), QSize(640, 1000), QSize(1600, 1200)}) {
+       {QSize(480, 542), QSize(700, 542), QSize(900, 662), QSize(640, 1022), QSize(1600, 1200)}) {
     WindowProgram program(size);
     program.OpenPuzzle();
     EXPECT_EQ(program.window.size(), size);
@@ -151,7 +152,7 @@ TEST(ControlPanel, ControlsNeverOverlapOrLeaveTheWindow) {
 TEST(ControlPanel, BoardGrowsWithTheWindow) {
   double last = 0;
   for (const QSize size :
-       {QSize(480, 520), QSize(700, 560), QSize(900, 640), QSize(1300, 1000), QSize(1600, 1200)}) {
+       {QSize(480, 542), QSize(700, 582), QSize(900, 662), QSize(1300, 1022), QSize(1600, 1200)}) {
     WindowProgram program(size);
     const QRectF cell = program.Board()->CellRect(0);
     EXPECT_EQ(cell.width(), cell.height());
@@ -162,14 +163,14 @@ TEST(ControlPanel, BoardGrowsWithTheWindow) {
 }
 
 TEST(ControlPanel, MarksCanBeReadInTheSmallestWindow) {
-  WindowProgram program(QSize(480, 520));
+  WindowProgram program(QSize(480, 542));
   EXPECT_GE(program.Board()->CellRect(0).width(), 27);
   program.window.resize(100, 100);
-  EXPECT_EQ(program.window.size(), QSize(480, 520));
+  EXPECT_EQ(program.window.size(), QSize(480, 542));
 }
 
 TEST(ControlPanel, LongHintIsShownWhole) {
-  for (const QSize size : {QSize(480, 520), QSize(900, 640), QSize(640, 1000)}) {
+  for (const QSize size : {QSize(480, 542), QSize(900, 662), QSize(640, 1022)}) {
     WindowProgram program(size);
     program.OpenPuzzle();
     const QLabel* hint = program.Find<QLabel>("TextHint");
@@ -186,7 +187,7 @@ TEST(ControlPanel, LongHintIsShownWhole) {
 
 TEST(ControlPanel, LargerDesktopFontIsGivenRoom) {
   const QFont before = QApplication::font();
-  WindowProgram program(QSize(900, 640));
+  WindowProgram program(QSize(900, 662));
   program.OpenPuzzle();
   QFont larger = before;
   larger.setPointSizeF(before.pointSizeF() * 1.3);

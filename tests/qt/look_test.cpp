@@ -27,7 +27,7 @@ void ExpectBoardShowsTheForm(WindowProgram& program) {
 }
 
 TEST(Look, BoardShowsTheFormInEveryStageAtEverySize) {
-  for (const QSize size : {QSize(480, 520), QSize(901, 643), QSize(1600, 1200)}) {
+  for (const QSize size : {QSize(480, 542), QSize(901, 643), QSize(1600, 1200)}) {
     WindowProgram program(size);
     ExpectBoardShowsTheForm(program);
     for (const char* command : {"CommandSaw", "CommandGo", "CommandConceal", "CommandSolve",

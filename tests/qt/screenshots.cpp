@@ -138,7 +138,7 @@ int main(int argc, char** argv) {
   if (!folder.mkpath(".")) return EXIT_FAILURE;
   const QPalette light = QApplication::palette();
   const QPalette dark = tessel::DarkPalette();
-  for (const QSize size : {QSize(900, 640), QSize(480, 520)}) {
+  for (const QSize size : {QSize(900, 662), QSize(480, 542)}) {
     QApplication::setPalette(light);
     tessel::Photographer(folder, "light", size).TakeAll();
     QApplication::setPalette(dark);
