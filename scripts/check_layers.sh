@@ -37,7 +37,7 @@ only_includes maker 'core|layout|search|solver|hints|grade|maker'
 only_includes formats 'core|layout|search|hints|solver|grade|formats'
 only_includes paper 'core|grade|paper'
 only_includes explain 'core|hints|grade|paper|explain'
-only_includes shell 'core|layout|search|hints|solver|grade|maker|formats|paper|shell'
+only_includes shell 'core|layout|search|hints|solver|grade|maker|formats|paper|explain|shell'
 only_includes tools 'core|layout|search|hints|solver|grade|maker|formats|paper|explain|tools'
 for folder in layout search hints solver grade maker formats paper explain tools; do
   knows_no_window "$folder"

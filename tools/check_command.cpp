@@ -5,6 +5,7 @@
 #include "formats/layout_line.h"
 #include "solver/diagnosis.h"
 #include "solver/fillable.h"
+#include "solver/verdict.h"
 #include "tools/failure.h"
 #include "tools/output.h"
 #include "tools/puzzle_input.h"
@@ -24,42 +25,6 @@ struct Options {
   bool minimal = false;
   bool solve = false;
 };
-
-std::string HouseName(const House& house) {
-  const std::string number = std::to_string(house.index + 1);
-  switch (house.kind) {
-    case HouseKind::kRow:
-      return "row " + number;
-    case HouseKind::kColumn:
-      return "column " + number;
-    case HouseKind::kCage:
-      return "cage " + number;
-  }
-  return "";
-}
-
-// The least that explains it.
-std::string WhyNone(const Puzzle& puzzle) {
-  if (const auto clash = solver::FindClash(puzzle.layout, puzzle.givens)) {
-    return "none: " + std::to_string(clash->digit) + " is given twice in " +
-           HouseName(clash->house) + ", " + CellName(clash->first) + " and " +
-           CellName(clash->second);
-  }
-  if (const auto cell = solver::FindCellWithoutDigit(puzzle.layout, puzzle.givens)) {
-    return "none: no digit is left for " + CellName(*cell);
-  }
-  return "none, found by search";
-}
-
-std::string Differences(const Grid& a, const Grid& b) {
-  std::string text;
-  for (int cell = 0; cell < kCellCount; ++cell) {
-    if (a[cell] == b[cell]) continue;
-    text += (text.empty() ? "" : ", ") + CellName(cell) + " is " + std::to_string(a[cell]) +
-            " or " + std::to_string(b[cell]);
-  }
-  return text;
-}
 
 std::string Names(const std::vector<int>& cells) {
   std::string names;
@@ -92,11 +57,11 @@ class Checking {
   std::string Verdict(const Puzzle& puzzle) {
     solver_.Use(puzzle.layout);
     const std::vector<Grid> found = solver_.Completions(puzzle.givens);
-    if (found.size() == 1) return "one" + AboutOne(puzzle, found.front()) + "\n";
+    std::string text = solver::VerdictOf(puzzle, found, CellName);
+    if (found.size() == 1) return text + AboutOne(puzzle, found.front()) + "\n";
     allHold_ = false;
-    if (found.empty()) return WhyNone(puzzle) + "\n";
-    return "several: " + Differences(found[0], found[1]) + "\n  " + GridText(found[0], '.') +
-           "\n  " + GridText(found[1], '.') + "\n";
+    for (const Grid& solution : found) text += "\n  " + GridText(solution, '.');
+    return text + "\n";
   }
 
   std::string AboutOne(const Puzzle& puzzle, const Grid& solution) {

@@ -1,10 +1,8 @@
 #include "tools/document.h"
 
-#include <charconv>
-#include <cstdlib>
-#include <ctime>
 #include <exception>
 
+#include "paper/pdf_date.h"
 #include "tools/failure.h"
 #include "tools/stop_signals.h"
 
@@ -47,18 +45,9 @@ class PatientSink {
 }  // namespace
 
 std::int64_t DateOfDocument() {
-  const char* const given = std::getenv("SOURCE_DATE_EPOCH");
-  if (given == nullptr || *given == '\0') return std::time(nullptr);
-  const std::string_view text(given);
-  std::int64_t seconds = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), seconds);
-  constexpr std::int64_t endOfYear9999 = 253402300799;
-  if (error != std::errc() || end != text.data() + text.size() || seconds < 0 ||
-      seconds > endOfYear9999) {
-    throw WrongOptions("SOURCE_DATE_EPOCH is no number of seconds since 1970: " +
-                       std::string(text));
-  }
-  return seconds;
+  const auto date = paper::DateOfDocument();
+  if (!date) throw WrongOptions(date.error());
+  return *date;
 }
 
 void WriteDocument(const std::string& path, Output::Existing existing,

@@ -10,8 +10,7 @@
 
 namespace tessel::tools {
 
-// The moment that a document tells as its date, in seconds since 1970: SOURCE_DATE_EPOCH, so that
-// it can be made again byte for byte, else now. Throws WrongOptions when that is no number.
+// paper::DateOfDocument; throws WrongOptions when there is none.
 std::int64_t DateOfDocument();
 
 using DocumentWriter = std::function<tl::expected<void, std::string>(const paper::Sink&)>;
