@@ -10,8 +10,10 @@ namespace tessel {
 void SolvingMode::CommandSolve_Click() {
   form_.SetCaption(texts::kProgram);
   form_.SetNotice("");
+  const bool isOpen = form_.SolveButtonsVisible();
   form_.ShowSolveButtons(true);
   CommandRestart_Click();
+  if (!isOpen) EndHistory();
 }
 
 void SolvingMode::Grid_MouseUp(int cell, MouseButton button, CellPosition at) {
@@ -31,6 +33,7 @@ void SolvingMode::Grid_MouseUp(int cell, MouseButton button, CellPosition at) {
 
 void SolvingMode::Make(const Move& move) {
   sounds_.PlaySound(move.sound);
+  history_.Record(state_, move.position);
   static_cast<Position&>(state_) = move.position;
 }
 
@@ -58,6 +61,8 @@ void SolvingMode::OpenBoard(bool open) {
 void SolvingMode::CommandRestart_Click() {
   EndAssignment();
   Make(Game().Restart(state_));
+  if (state_.SavedPuzzle != opened_) EndHistory();
+  opened_ = state_.SavedPuzzle;
   for (int cell = 0; cell < kCellCount; ++cell) ShowPuzzleCell(cell);
   form_.SetTextHint(texts::kPressHint);
   OpenBoard(true);
@@ -83,6 +88,7 @@ void SolvingMode::Leave() {
   for (int cell = 0; cell < kCellCount; ++cell) ShowSavedCell(cell);
   form_.SetAllCaptions(kBlack);
   form_.ShowSolveButtons(false);
+  EndHistory();
 }
 
 // The marks stay where they are and vanish in the colour of their ground.
@@ -96,8 +102,21 @@ void SolvingMode::CheckPencilmarks_Click() {
   const MarkMode mode =
       form_.Checked(CheckBox::CheckPencilmarks) ? MarkMode::kAutomatic : MarkMode::kNotUpdated;
   if (mode == state_.PencilmarkMode) return;
+  Position next = state_;
+  next.PencilmarkMode = mode;
+  history_.Record(state_, next);
   state_.PencilmarkMode = mode;
   RefreshPencilmarks();
+}
+
+// The generation may have hidden the marks, or shown other digits, since the position was left.
+void SolvingMode::Show(const std::optional<Position>& position) {
+  if (!position) return;
+  static_cast<Position&>(state_) = *position;
+  form_.SetChecked(CheckBox::CheckPencilmarks, position->PencilmarkMode == MarkMode::kAutomatic);
+  for (int cell = 0; cell < kCellCount; ++cell) form_.SetMarksColour(cell, kBlack);
+  RefreshPencilmarks();
+  OpenBoard(!IsFull(state_));
 }
 
 }  // namespace tessel

@@ -41,6 +41,7 @@ void Tessel_Main::Click(Button button) {
   if (!AcceptsInput(button)) return;
   switch (button) {
     case Button::CommandSaw:
+      solving_.EndHistory();
       return generation_.CommandSaw_Click();
     case Button::CommandGo:
       return generation_.CommandGo_Click();
@@ -104,6 +105,14 @@ std::uint64_t Tessel_Main::DrawSeed() {
     seed = seed << bits | static_cast<std::uint64_t>(DrawIndex(random_, 1 << bits));
   }
   return seed;
+}
+
+void Tessel_Main::Undo() {
+  if (CanUndo()) solving_.Undo();
+}
+
+void Tessel_Main::Redo() {
+  if (CanRedo()) solving_.Redo();
 }
 
 bool Tessel_Main::AcceptsInput(Button button) const {

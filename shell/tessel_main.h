@@ -46,6 +46,11 @@ class Tessel_Main {
   std::optional<Puzzle> PuzzleAtHand() const;
   // A number for work of its own that needs chance.
   std::uint64_t DrawSeed();
+  // A step back or forth in the game on the board.
+  bool CanUndo() const { return IsIdle() && solving_.CanUndo(); }
+  bool CanRedo() const { return IsIdle() && solving_.CanRedo(); }
+  void Undo();
+  void Redo();
   // The request to close the window; true when the window may close.
   bool Form_QueryUnload();
 

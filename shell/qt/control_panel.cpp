@@ -96,6 +96,8 @@ ControlPanel::ControlPanel(QWidget* parent) : QWidget(parent) {
   MakeButtons();
   MakeBoxes();
   MakeHelp();
+  undo_ = MakeStepButton("Undo", "Take the last move back", "Ctrl+Z");
+  redo_ = MakeStepButton("Redo", "Make the move again", "Ctrl+Shift+Z");
   Measure();
 }
 
@@ -135,6 +137,15 @@ void ControlPanel::MakeHelp() {
   ClickOn(help_, "F1");
 }
 
+// The mouse leaves the focus on the board.
+QPushButton* ControlPanel::MakeStepButton(const char* name, const char* tip, const char* keys) {
+  auto* button = new QPushButton(name, solveButtons_);
+  button->setObjectName(name);
+  button->setToolTip(WithKeys(tip, keys));
+  button->setFocusPolicy(Qt::TabFocus);
+  return button;
+}
+
 QList<QWidget*> ControlPanel::GenerationControls() const {
   return {Of(Button::CommandSaw),          Of(CheckBox::Rotational),     Of(CheckBox::MakeRegular),
           Of(Button::CommandGo),           Of(CheckBox::CheckVisualize), Of(Button::CommandConceal),
@@ -142,8 +153,14 @@ QList<QWidget*> ControlPanel::GenerationControls() const {
 }
 
 QList<QWidget*> ControlPanel::SolveControls() const {
-  return {Of(Button::CommandHint),     Of(CheckBox::CheckPencilmarks), Of(Button::CommandRestart),
-          Of(Button::CommandSolution), Of(Button::CommandQuit),        help_,
+  return {Of(Button::CommandHint),
+          Of(CheckBox::CheckPencilmarks),
+          undo_,
+          redo_,
+          Of(Button::CommandRestart),
+          Of(Button::CommandSolution),
+          Of(Button::CommandQuit),
+          help_,
           Of(Button::CommandExit)};
 }
 
@@ -188,6 +205,7 @@ void ControlPanel::Measure() {
 void ControlPanel::Arrange(Arrangement arrangement) {
   if (arrangement == arrangement_ && layout() != nullptr) return;
   arrangement_ = arrangement;
+  for (QPushButton* step : {undo_, redo_}) step->setVisible(arrangement == Arrangement::kBeside);
   if (arrangement == Arrangement::kBeside) {
     ArrangeBeside();
   } else {
@@ -211,9 +229,11 @@ void ControlPanel::ArrangeBeside() {
          {{Of(Button::CommandHint), 0, 0, 2},
           {textHint_, 1, 0, 2},
           {Of(CheckBox::CheckPencilmarks), 2, 0, 2},
-          {Of(Button::CommandRestart), 3, 0},
-          {Of(Button::CommandSolution), 3, 1},
-          {Of(Button::CommandQuit), 4, 0, 2}});
+          {undo_, 3, 0},
+          {redo_, 3, 1},
+          {Of(Button::CommandRestart), 4, 0},
+          {Of(Button::CommandSolution), 4, 1},
+          {Of(Button::CommandQuit), 5, 0, 2}});
   LayOut(this, 0, kWideSpacing,
          {{generation_, 0, 0, 2},
           {solveButtons_, 1, 0, 2},

@@ -33,6 +33,10 @@ class ControlPanel final : public QWidget {
   // Null for the spare button, which is not shown.
   QPushButton* Of(Button button) const { return buttons_[tessel::IndexOf(button)]; }
   QCheckBox* Of(CheckBox box) const { return boxes_[tessel::IndexOf(box)]; }
+  // They press what the menu's entries of these names do; there is no room for them below the
+  // board.
+  QPushButton* Undo() const { return undo_; }
+  QPushButton* Redo() const { return redo_; }
   // The panel's controls in the order of the workflow; the board stands before the frame's.
   QList<QWidget*> GenerationControls() const;
   QList<QWidget*> SolveControls() const;
@@ -54,6 +58,7 @@ class ControlPanel final : public QWidget {
   void MakeButtons();
   void MakeBoxes();
   void MakeHelp();
+  QPushButton* MakeStepButton(const char* name, const char* tip, const char* keys);
   void Measure();
   void ArrangeBeside();
   void ArrangeBelow();
@@ -64,6 +69,8 @@ class ControlPanel final : public QWidget {
   std::array<QPushButton*, kButtonCount> buttons_{};
   std::array<QCheckBox*, kCheckBoxCount> boxes_{};
   QPushButton* help_ = nullptr;
+  QPushButton* undo_ = nullptr;
+  QPushButton* redo_ = nullptr;
   QFrame* generation_ = nullptr;
   QFrame* solveButtons_ = nullptr;
   QLabel* textHint_ = nullptr;

@@ -1,8 +1,18 @@
 #include "shell/qt/game_actions.h"
 
+#include <QAction>
+
 namespace tessel {
 
-GameActions::GameActions(MenuBar& menu, ControlPanel& panel, const Tessel_Main& logic) {
+GameActions::GameActions(MenuBar& menu, ControlPanel& panel, Tessel_Main& logic,
+                         std::function<void()> sync)
+    : menu_(menu) {
+  menu.Connect(
+      Entry::kUndo, [&logic, sync] { logic.Undo(), sync(); }, [&logic] { return logic.CanUndo(); });
+  menu.Connect(
+      Entry::kRedo, [&logic, sync] { logic.Redo(), sync(); }, [&logic] { return logic.CanRedo(); });
+  Join(*panel.Undo(), Entry::kUndo);
+  Join(*panel.Redo(), Entry::kRedo);
   const auto press = [&](Entry entry, Button button) {
     menu.Connect(
         entry, [&panel, button] { panel.Of(button)->click(); },
@@ -12,6 +22,14 @@ GameActions::GameActions(MenuBar& menu, ControlPanel& panel, const Tessel_Main& 
   press(Entry::kHint, Button::CommandHint);
   press(Entry::kSolution, Button::CommandSolution);
   press(Entry::kQuit, Button::CommandQuit);
+}
+
+void GameActions::Join(QPushButton& button, Entry entry) {
+  QAction* const action = menu_.Of(entry);
+  QObject::connect(&button, &QPushButton::clicked, action, &QAction::trigger);
+  const auto follow = [&button, action] { button.setEnabled(action->isEnabled()); };
+  QObject::connect(action, &QAction::changed, &button, follow);
+  follow();
 }
 
 }  // namespace tessel

@@ -1,5 +1,7 @@
-// The entries of the Game menu.
+// The entries of the Game menu, and the buttons that stand for two of them.
 #pragma once
+
+#include <functional>
 
 #include "shell/qt/control_panel.h"
 #include "shell/qt/menu_bar.h"
@@ -9,8 +11,14 @@ namespace tessel {
 
 class GameActions {
  public:
-  // All must live as long as the menu bar.
-  GameActions(MenuBar& menu, ControlPanel& panel, const Tessel_Main& logic);
+  // `sync` shows what the logic has changed. All must live as long as the menu bar.
+  GameActions(MenuBar& menu, ControlPanel& panel, Tessel_Main& logic, std::function<void()> sync);
+
+ private:
+  // The button triggers the entry, and is enabled while that is.
+  void Join(QPushButton& button, Entry entry);
+
+  MenuBar& menu_;
 };
 
 }  // namespace tessel

@@ -84,7 +84,7 @@ void TesselWindow::BuildMenus() {
       Entry::kExit, [this] { panel_->Of(Button::CommandExit)->click(); },
       [this] { return logic_->AcceptsInput(Button::CommandExit); });
   menu_->Connect(Entry::kHelp, [this] { OpenHelp(); });
-  gameActions_.emplace(*menu_, *panel_, *logic_);
+  gameActions_.emplace(*menu_, *panel_, *logic_, [this] { Sync(); });
 }
 
 void TesselWindow::Show() {

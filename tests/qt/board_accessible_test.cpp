@@ -110,7 +110,7 @@ TEST(BoardAccessible, EverythingInTheWindowHasAName) {
     }
   }
   EXPECT_EQ(cells, 81);
-  EXPECT_EQ(controls, 9 + 5 + 1) << "nine buttons, five boxes, help";
+  EXPECT_EQ(controls, 9 + 2 + 5 + 1) << "nine buttons, undo and redo, five boxes, help";
 }
 
 TEST(BoardAccessible, HintTextCanBeRead) {
