@@ -17,7 +17,7 @@ namespace {
 using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
-constexpr std::uint64_t kBatch = 32;
+constexpr std::uint64_t kMostABatch = 32;
 constexpr std::size_t kWriteBytes = std::size_t{1} << 16;
 constexpr milliseconds kPatience{50};  // until a signal or the progress line is looked after
 constexpr milliseconds kCheckpointTime{1000};
@@ -113,13 +113,15 @@ void Making::Run() try {
 void Making::MakeAll() {
   const std::uint64_t first = tally_.next;
   const std::uint64_t indices = range_.end - first;
-  const std::uint64_t batches = Enough() ? 0 : indices / kBatch + (indices % kBatch != 0 ? 1 : 0);
+  // One puzzle that is wanted does not wait for others.
+  const std::uint64_t size = std::min(kMostABatch, options_.want.value_or(kMostABatch));
+  const std::uint64_t batches = Enough() ? 0 : indices / size + (indices % size != 0 ? 1 : 0);
   const auto endOf = [&](std::uint64_t batch) {
-    return first + std::min(indices, (batch + 1) * kBatch);
+    return first + std::min(indices, (batch + 1) * size);
   };
   maker::InOrder<Batch> work(batches, options_.jobs, [&] {
     return [&, maker = maker::BatchMaker(options_.order)](std::uint64_t number) mutable {
-      const std::uint64_t begin = first + number * kBatch;
+      const std::uint64_t begin = first + number * size;
       Batch batch;
       for (const maker::Made& made : maker.Make(begin, endOf(number) - begin)) {
         batch.push_back(MakeRecordOf(made, options_));
