@@ -3,9 +3,9 @@
 #include <memory>
 
 #include "formats/columns.h"
-#include "tools/failure.h"
 #include "tools/output.h"
 #include "tools/puzzle_input.h"
+#include "tools/record_format.h"
 #include "tools/stop_signals.h"
 #include "tools/subcommand.h"
 
@@ -47,66 +47,47 @@ class Conversion {
  public:
   explicit Conversion(const Options& options)
       : options_(options),
-        format_(*formats::FormatNamed(options.to)),
+        format_(options.to, options.columns),
         output_(options.output,
-                options.force ? Output::Existing::kReplaced : Output::Existing::kRefused) {
-    if (!options.columns.empty()) ChooseColumns();
-  }
+                options.force ? Output::Existing::kReplaced : Output::Existing::kRefused) {}
 
   int Run() {
-    output_.Write(columns_.empty() ? std::string(format_.header) : Header());
+    output_.Write(format_.Header());
     const bool allRead = ForEachPuzzle(
         options_.input,
         [&](DescribedPuzzle puzzle, const std::string& place) { Convert(puzzle, place); });
     output_.Finish();
     if (!lost_.Empty()) {
-      std::cerr << "left out, because " << format_.name << " cannot hold them: " << Listed(lost_)
-                << "\n";
+      std::cerr << "left out, because " << format_.Base().name
+                << " cannot hold them: " << Listed(lost_) << "\n";
     }
     return allRead && allWritten_ ? kDone : kFailed;
   }
 
  private:
-  void ChooseColumns() {
-    if (format_.name != "csv" && format_.name != "jsonl") {
-      throw WrongOptions("--columns is for csv and jsonl");
-    }
-    auto columns = formats::ColumnsNamed(options_.columns);
-    if (!columns) {
-      throw WrongOptions("there is no column '" + columns.error() +
-                         "', but there are: " + formats::ColumnNames());
-    }
-    columns_ = *std::move(columns);
-  }
-
-  std::string Header() const { return format_.header.empty() ? "" : formats::CsvHeader(columns_); }
-
   void Convert(const DescribedPuzzle& puzzle, const std::string& place) {
     const formats::Writing writing = Written(puzzle);
     if (writing) {
       output_.Write(*writing);
-      lost_ = lost_ | (formats::DetailsOf(puzzle) - format_.carries);
+      lost_ = lost_ | (formats::DetailsOf(puzzle) - format_.Base().carries);
       ++written_;
     } else {
-      std::cerr << place << ": cannot be written in " << format_.name << ": " << writing.error()
-                << "\n";
+      std::cerr << place << ": cannot be written in " << format_.Base().name << ": "
+                << writing.error() << "\n";
       allWritten_ = false;
     }
   }
 
   formats::Writing Written(const DescribedPuzzle& puzzle) const {
-    if (format_.onePuzzleAFile && written_ == 1) {
+    if (format_.Base().onePuzzleAFile && written_ == 1) {
       return tl::unexpected<std::string>("a file holds one puzzle, and has one already");
     }
-    if (columns_.empty()) return format_.write(puzzle);
-    return format_.header.empty() ? formats::JsonLine(puzzle, columns_)
-                                  : formats::CsvLine(puzzle, columns_);
+    return format_.Write(puzzle);
   }
 
   const Options& options_;
-  const Format& format_;
+  RecordFormat format_;
   Output output_;
-  formats::Columns columns_;
   Details lost_;
   std::uint64_t written_ = 0;
   bool allWritten_ = true;
