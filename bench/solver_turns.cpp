@@ -10,9 +10,7 @@
 #include "bench/distribution.h"
 #include "bench/engine.h"
 #include "solver/conceal.h"
-#ifdef TESSEL_HAS_SAT
 #include "solver/fillable.h"
-#endif
 
 namespace tessel::bench {
 namespace {
@@ -194,7 +192,6 @@ void PrintSaw(LayoutKind kind, int layouts) {
   PrintSeconds((std::string("Saw, whole command, ") + NameOf(kind)).c_str(), std::move(seconds));
 }
 
-#ifdef TESSEL_HAS_SAT
 void PrintUnfillable(int layouts) {
   Engine engine;
   std::vector<double> seconds;
@@ -206,7 +203,6 @@ void PrintUnfillable(int layouts) {
   }
   PrintSeconds("Layouts without a filling, decided", std::move(seconds));
 }
-#endif
 
 }  // namespace
 }  // namespace tessel::bench
@@ -226,7 +222,5 @@ int main(int argc, char** argv) {
   for (const LayoutKind kind : {LayoutKind::kRandom, LayoutKind::kRotational}) {
     PrintSaw(kind, argument(3, 20'000));
   }
-#ifdef TESSEL_HAS_SAT
   PrintUnfillable(argument(4, 200));
-#endif
 }

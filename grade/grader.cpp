@@ -1,5 +1,7 @@
 #include "grade/grader.h"
 
+#include "solver/fillable.h"
+
 namespace tessel::grade {
 
 std::string_view MessageOf(GradeFault fault) {
@@ -7,12 +9,7 @@ std::string_view MessageOf(GradeFault fault) {
 }
 
 tl::expected<Grade, GradeFault> Grader::GradeOf(const Layout& layout, const Grid& givens) {
-  if (solver_) {
-    solver_->Use(layout);
-  } else {
-    solver_.emplace(layout);
-  }
-  const std::size_t solutions = solver_->Completions(givens).size();
+  const std::size_t solutions = solver::DecideCompletions(solver_, layout, givens).size();
   if (solutions == 0) return tl::unexpected(GradeFault::kNoSolution);
   if (solutions > 1) return tl::unexpected(GradeFault::kSeveralSolutions);
   return grade::GradeOf(layout, givens);

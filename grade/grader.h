@@ -25,7 +25,7 @@ class Grader {
   }
 
  private:
-  std::optional<solver::Solver> solver_;
+  solver::Solver solver_{Layout::Regular()};
 };
 
 }  // namespace tessel::grade

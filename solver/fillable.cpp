@@ -67,11 +67,10 @@ Filling DecideBySat(const Layout& layout) {
   return {Answer::kYes, GridOf(sat), 0};
 }
 
+namespace {
+
 // A completion that was found is forbidden before the next is looked for.
-std::vector<Grid> DecideCompletions(const Layout& layout, const Grid& givens, int most) {
-  if (auto searched = Solver(layout).CompletionsWithin(givens, most, kSearchedNodes)) {
-    return *searched;
-  }
+std::vector<Grid> CompletionsBySat(const Layout& layout, const Grid& givens, int most) {
   CaDiCaL::Solver sat;
   RequireRules(sat, layout);
   for (int cell = 0; cell < kCellCount; ++cell) {
@@ -87,6 +86,15 @@ std::vector<Grid> DecideCompletions(const Layout& layout, const Grid& givens, in
     RequireAny(sat, others);
   }
   return completions;
+}
+
+}  // namespace
+
+std::vector<Grid> DecideCompletions(Solver& solver, const Layout& layout, const Grid& givens,
+                                    int most) {
+  solver.Use(layout);
+  const auto searched = solver.CompletionsWithin(givens, most, kSearchedNodes);
+  return searched ? *searched : CompletionsBySat(layout, givens, most);
 }
 
 Filling DecideFillable(const Layout& layout, Path path) {

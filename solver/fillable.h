@@ -13,7 +13,9 @@ Filling DecideFillable(const Layout& layout, Path path = BestPath());
 // The same by the SAT solver alone, which shares nothing with the search. Counts no nodes.
 Filling DecideBySat(const Layout& layout);
 
-// The completions of any givens of any layout, two at most; see Solver::Completions.
-std::vector<Grid> DecideCompletions(const Layout& layout, const Grid& givens, int most = 2);
+// The completions of any givens of any layout, two at most; see Solver::Completions. The solver is
+// put to use for the layout.
+std::vector<Grid> DecideCompletions(Solver& solver, const Layout& layout, const Grid& givens,
+                                    int most = 2);
 
 }  // namespace tessel::solver

@@ -55,8 +55,7 @@ class Checking {
   }
 
   std::string Verdict(const Puzzle& puzzle) {
-    solver_.Use(puzzle.layout);
-    const std::vector<Grid> found = solver_.Completions(puzzle.givens);
+    const auto found = solver::DecideCompletions(solver_, puzzle.layout, puzzle.givens);
     std::string text = solver::VerdictOf(puzzle, found, CellName);
     if (found.size() == 1) return text + AboutOne(puzzle, found.front()) + "\n";
     allHold_ = false;

@@ -9,7 +9,7 @@
 #include "explain/text.h"
 #include "grade/candidate_grid.h"
 #include "hints/mistakes.h"
-#include "solver/solver.h"
+#include "solver/fillable.h"
 #include "tools/document.h"
 #include "tools/failure.h"
 #include "tools/puzzle_input.h"
@@ -99,8 +99,7 @@ class Explaining {
 
   Start StartOf(const DescribedPuzzle& described) {
     const Puzzle& puzzle = described.puzzle;
-    solver_.Use(puzzle.layout);
-    const std::vector<Grid> solutions = solver_.Completions(puzzle.givens);
+    const auto solutions = solver::DecideCompletions(solver_, puzzle.layout, puzzle.givens);
     if (solutions.empty()) return tl::unexpected(std::string("it has no solution"));
     if (solutions.size() > 1) return tl::unexpected(std::string("it has several solutions"));
     if (options_.fromHere) return StartHere(described, solutions.front());

@@ -5,7 +5,7 @@
 
 #include "grade/grader.h"
 #include "paper/picture_file.h"
-#include "solver/solver.h"
+#include "solver/fillable.h"
 #include "tools/document.h"
 #include "tools/failure.h"
 #include "tools/print_options.h"
@@ -36,9 +36,7 @@ class Completion {
 
  private:
   void Solve(Puzzle& puzzle, const std::string& place) {
-    if (!solver_) solver_.emplace(puzzle.layout);
-    solver_->Use(puzzle.layout);
-    const std::vector<Grid> found = solver_->Completions(puzzle.givens);
+    const auto found = solver::DecideCompletions(solver_, puzzle.layout, puzzle.givens);
     if (found.size() == 1) {
       puzzle.solution = found.front();
       return;
@@ -59,7 +57,7 @@ class Completion {
 
   bool solutions_;
   bool grades_;
-  std::optional<solver::Solver> solver_;
+  solver::Solver solver_{Layout::Regular()};
   grade::Grader grader_;
 };
 

@@ -64,13 +64,15 @@ TEST(DecideCompletions, EndsWhereTheSearchDoesNot) {
   Grid givens{};
   givens[57] = 6;
   EXPECT_EQ(Solver(layout).CompletionsWithin(givens, 2, 20'000), std::nullopt);
-  EXPECT_TRUE(DecideCompletions(layout, givens).empty());
+  Solver solver(Layout::Regular());
+  EXPECT_TRUE(DecideCompletions(solver, layout, givens).empty());
 }
 
 TEST(DecideCompletions, FindsTwoBySatToo) {
   const Layout layout = SampleLayout(1);
-  EXPECT_EQ(DecideCompletions(layout, {}).size(), 2U);
-  EXPECT_EQ(DecideCompletions(layout, {}, 1).size(), 1U);
+  Solver solver(Layout::Regular());
+  EXPECT_EQ(DecideCompletions(solver, layout, {}).size(), 2U);
+  EXPECT_EQ(DecideCompletions(solver, layout, {}, 1).size(), 1U);
 }
 
 }  // namespace

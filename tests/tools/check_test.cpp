@@ -12,6 +12,12 @@ using formats::kExampleGivens;
 using formats::kExampleSolution;
 using testing::HasSubstr;
 
+constexpr std::string_view kBoxes =
+    "111222333111222333111222333444555666444555666444555666777888999777888999777888999";
+// Connected cages that no digits fill.
+constexpr std::string_view kUnfillable =
+    "577773333547778833547788833544488883555449222656449922656999922666191912661111112";
+
 std::string Line(const std::string& givens) {
   return givens + " " + std::string(kExampleCages) + "\n";
 }
@@ -60,14 +66,30 @@ TEST(Check, TellsTheLeastReasonForNone) {
   twice[0] = '8';
   EXPECT_EQ(Check(Line(twice)).out,
             "standard input:1: none: 8 is given twice in row 1, r1c1 and r1c2\n");
-  const std::string boxes =
-      " 111222333111222333111222333444555666444555666444555666777888999777888999777888999";
-  EXPECT_EQ(Check("12345678." + std::string(17, '.') + "9" + std::string(54, '.') + boxes).out,
+  EXPECT_EQ(Check("12345678." + std::string(17, '.') + "9" + std::string(54, '.') + " " +
+                  std::string(kBoxes))
+                .out,
             "standard input:1: none: no digit is left for r1c9\n");
-  EXPECT_EQ(Check("12345678." + std::string(8, '.') + "." + std::string(6, '.') + "9.." +
-                  std::string(54, '.') + boxes)
-                .code,
-            1);
+}
+
+// The digit 5 has no cell left in box 1, though nothing clashes and every cell has a digit.
+TEST(Check, TellsThatSearchFoundNone) {
+  std::string givens(81, '.');
+  for (const int cell : {3, 15, 28, 56}) givens[cell] = '5';
+  for (const int cell : {0, 9, 18}) givens[cell] = static_cast<char>('1' + cell / 9);
+  const Outcome outcome = Check(givens + " " + std::string(kBoxes) + "\n");
+  EXPECT_EQ(outcome.code, 1);
+  EXPECT_EQ(outcome.out, "standard input:1: none, found by search\n");
+}
+
+// One given of that layout: the search alone goes on for ever.
+TEST(Check, EndsWhereTheSearchDoesNot) {
+  std::string givens(81, '.');
+  givens[54] = '7';
+  const std::string puzzle = givens + " " + std::string(kUnfillable) + "\n";
+  EXPECT_EQ(Check(puzzle).out, "standard input:1: none, found by search\n");
+  EXPECT_THAT(RunTessel({"grade"}, puzzle).err, HasSubstr("it has no solution"));
+  EXPECT_THAT(RunTessel({"explain", "-"}, puzzle).err, HasSubstr("it has no solution"));
 }
 
 TEST(Check, TellsGivensThatCouldGo) {
@@ -87,6 +109,13 @@ TEST(Check, TellsWhetherLayoutsHaveAFilling) {
   EXPECT_EQ(outcome.code, 0);
   EXPECT_EQ(outcome.out.substr(0, 4), "yes ");
   EXPECT_EQ(outcome.out.size(), 2 * 86U);
+}
+
+TEST(Check, TellsALayoutWithoutAFilling) {
+  const std::string layouts = std::string(kUnfillable) + "\n" + std::string(kExampleCages) + "\n";
+  const Outcome outcome = Check(layouts, {"--layout"});
+  EXPECT_EQ(outcome.code, 1);
+  EXPECT_EQ(outcome.out.substr(0, 7), "no\nyes ");
 }
 
 TEST(Check, LayoutGoesAlone) {
