@@ -3,9 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <map>
 
 #include "maker/batch.h"
+#include "tests/solver/samples.h"
 
 namespace tessel::maker {
 namespace {
@@ -35,6 +37,23 @@ TEST(Maker, PuzzlesHaveTheirSolutionAndNoOther) {
       solver::Solver solver(puzzle.layout);
       EXPECT_EQ(solver.Completions(puzzle.givens), std::vector{*puzzle.solution});
     }
+  }
+}
+
+// TESSEL_MADE=20000 in the environment: so many puzzles.
+std::uint64_t PuzzlesForTheSlowSolver() {
+  const char* const told = std::getenv("TESSEL_MADE");
+  return told == nullptr ? 60 : std::strtoull(told, nullptr, 10);
+}
+
+TEST(Maker, AnotherSolverFindsTheSameSolutionAlone) {
+  std::vector<Maker> makers;
+  for (const Recipe& recipe : Recipes()) makers.emplace_back(recipe);
+  for (std::uint64_t index = 0; index < PuzzlesForTheSlowSolver(); ++index) {
+    const Puzzle puzzle = makers[index % makers.size()].Make(2, index);
+    oracle::IndependentSolver other(solver::OracleLayoutOf(puzzle.layout));
+    ASSERT_EQ(other.CountSolutions(solver::OracleGridOf(puzzle.givens), 2), 1) << index;
+    ASSERT_EQ(solver::GridOf(other.Solution()), puzzle.solution) << index;
   }
 }
 
