@@ -14,9 +14,9 @@ struct Wish {
   grade::Level hardest = grade::Level::kBeyond;
   int lowestScore = 0;
   int highestScore = std::numeric_limits<int>::max();
-  std::optional<grade::StepKind> step;  // must occur at least once
+  std::optional<grade::StepKind> step{};  // must occur at least once
   // Not met by puzzles that need more: their recipe asked for so many givens in vain.
-  std::optional<int> mostGivens;
+  std::optional<int> mostGivens{};
 
   bool LooksAtGrade() const;
   // Whether a puzzle passes that no grade is needed to refuse.

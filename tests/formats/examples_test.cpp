@@ -3,6 +3,7 @@
 #include "formats/format.h"
 #include "formats/sdm.h"
 #include "formats/sds.h"
+#include "formats/solo.h"
 #include "tests/formats/example.h"
 
 namespace tessel::formats {
@@ -72,6 +73,18 @@ TEST(Sdm, HoldsBoxesHoweverTheyAreNumbered) {
 
 TEST(Sdm, RefusesIrregularCages) {
   EXPECT_FALSE(WriteSdm(Example()));
+}
+
+// Three rows are cages, and boxes stand below: 24 edges without a wall, and two more.
+TEST(Solo, RefusesTwentySixEdgesWithoutAWall) {
+  CageNumbers cages = Layout::Regular().Cages();
+  for (int cell = 0; cell < 3 * kSide; ++cell) {
+    cages[cell] = static_cast<std::uint8_t>(1 + RowOf(cell));
+  }
+  const Writing writing = WriteSolo({.puzzle = {Layout::FromCages(cages).value(), {}, {}}});
+  ASSERT_FALSE(writing);
+  EXPECT_EQ(writing.error(),
+            "26 edges without a wall follow each other, which programs read in two ways");
 }
 
 TEST(Formats, AreFoundByName) {

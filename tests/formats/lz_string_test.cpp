@@ -25,6 +25,10 @@ TEST(LzString, PacksAsOthersDo) {
   EXPECT_EQ(LzCompressed(u"a"), "IZA=");
   EXPECT_EQ(LzCompressed(u"aaaaaaaa"), "IY0o");
   EXPECT_EQ(LzCompressed(u"hello hello hello"), "BYUwNmD2AEoTcpA=");
+  // The last bit of these fills a letter, and another one follows.
+  EXPECT_EQ(LzCompressed(u"ab"), "IYIyA===");
+  EXPECT_EQ(LzCompressed(u"abcde"), "IYIwxgJgpkA=");
+  EXPECT_EQ(LzCompressed(u"abcdef"), "IYIwxgJgpgZkA===");
 }
 
 TEST(LzString, UnpacksWhatItPacked) {

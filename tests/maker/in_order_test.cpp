@@ -61,6 +61,25 @@ TEST(InOrder, AnUnfinishedBatchCanBeLeft) {
   EXPECT_EQ(work.Next(seconds(60)).result, 7);
 }
 
+// The second worker is through with batch 1 when it begins batch 2.
+TEST(InOrder, ALaterBatchWaitsForTheOneBefore) {
+  std::atomic<bool> held = true;
+  std::atomic<bool> laterDone = false;
+  InOrder<std::uint64_t> work(3, 2, [&] {
+    return [&](std::uint64_t batch) {
+      if (batch == 2) laterDone = true;
+      while (batch == 0 && held) std::this_thread::yield();
+      return batch;
+    };
+  });
+  while (!laterDone) std::this_thread::yield();
+  EXPECT_FALSE(work.Next(std::chrono::milliseconds(1)).ready);
+  held = false;
+  for (std::uint64_t batch = 0; batch < 3; ++batch) {
+    EXPECT_EQ(work.Next(seconds(60)).result, batch);
+  }
+}
+
 TEST(InOrder, AWorkersExceptionComesOut) {
   InOrder<int> work(10, 2, [] {
     return [](std::uint64_t batch) -> int {

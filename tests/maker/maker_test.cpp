@@ -141,6 +141,27 @@ TEST(BatchMaker, GradesOnlyWhereSomebodyLooks) {
   EXPECT_FALSE(BatchMaker(order).Make(0, 1).front().grade);
 }
 
+TEST(Wish, AcceptsLevelsScoresAndStepsInItsRange) {
+  grade::Grade grade;
+  grade.Count(grade::StepKind::kPointing, 1);  // moderate, of score 50
+  const auto accepts = [&](const Wish& wish) { return wish.Accepts(grade); };
+  EXPECT_TRUE(accepts({.easiest = grade::Level::kModerate, .hardest = grade::Level::kModerate}));
+  EXPECT_FALSE(accepts({.easiest = grade::Level::kTricky}));
+  EXPECT_FALSE(accepts({.hardest = grade::Level::kEasy}));
+  EXPECT_TRUE(accepts({.lowestScore = 50, .highestScore = 50}));
+  EXPECT_FALSE(accepts({.lowestScore = 51}));
+  EXPECT_FALSE(accepts({.highestScore = 49}));
+  EXPECT_TRUE(accepts({.step = grade::StepKind::kPointing}));
+  EXPECT_FALSE(accepts({.step = grade::StepKind::kClaiming}));
+}
+
+TEST(Wish, AcceptsAsManyGivensAsItSays) {
+  Grid givens{};
+  givens[0] = givens[40] = 1;
+  EXPECT_TRUE((Wish{.mostGivens = 2}).AcceptsGivens(givens));
+  EXPECT_FALSE((Wish{.mostGivens = 1}).AcceptsGivens(givens));
+}
+
 TEST(Wish, RefusesPuzzlesThatNeedMoreGivens) {
   Order order;
   order.recipe.givens = 20;
