@@ -109,6 +109,10 @@ bool GenerationCommands::RunConceal() {
   return Concealing(state_, form_, view_, random_, clock_, search_).ConcealCells2ValidTessel();
 }
 
+std::string GenerationCommands::PuzzleFilePath() const {
+  return PuzzleFolder(state_.ProgramPath, userFolder_, system_) + kPuzzleFileName;
+}
+
 // A puzzle that cannot be saved can be solved all the same; the foot of the window tells.
 void GenerationCommands::SaveTessel() {
   for (int cell = 0; cell < kCellCount; ++cell) {

@@ -25,6 +25,9 @@ class GenerationCommands {
   void CommandGo_Click();
   void CommandConceal_Click();
 
+  // Where puzzles are saved.
+  std::string PuzzleFilePath() const;
+
  private:
   void RunSaw();
   bool RunFill();     // whether it completed

@@ -89,9 +89,13 @@ bool Tessel_Main::LeaveGame() {
   return true;
 }
 
-std::optional<Puzzle> Tessel_Main::PuzzleAtHand() const {
+bool Tessel_Main::HasPuzzleAtHand() const {
   const bool solvable = form_.Of(Button::CommandSolve).enabled || form_.SolveButtonsVisible();
-  if (!solvable || form_.Running()) return std::nullopt;
+  return solvable && !form_.Running();
+}
+
+std::optional<Puzzle> Tessel_Main::PuzzleAtHand() const {
+  if (!HasPuzzleAtHand()) return std::nullopt;
   const PuzzleRecord& saved = state_.SavedPuzzle;
   return Puzzle{Layout::FromCages(saved.CageMap, Layout::Shape::kAny).value(), saved.Board,
                 saved.Solution};

@@ -44,6 +44,11 @@ class Tessel_Main {
   bool OpenPuzzle(const Puzzle& puzzle);
   // What Solve or Restart would open; nothing while there is no such puzzle, or a command runs.
   std::optional<Puzzle> PuzzleAtHand() const;
+  bool HasPuzzleAtHand() const;
+  // Where concealed puzzles are saved, whether or not the file is there yet.
+  std::string PuzzleFilePath() const { return generation_.PuzzleFilePath(); }
+  // Says something at the foot of the window, until the next command.
+  void Tell(const std::string& what) { form_.SetNotice(what); }
   // A number for work of its own that needs chance.
   std::uint64_t DrawSeed();
   // A step back or forth in the game on the board.

@@ -85,6 +85,9 @@ void TesselWindow::BuildMenus() {
       [this] { return logic_->AcceptsInput(Button::CommandExit); });
   menu_->Connect(Entry::kHelp, [this] { OpenHelp(); });
   gameActions_.emplace(*menu_, *panel_, *logic_, [this] { Sync(); });
+  puzzleActions_.emplace(
+      *menu_, *this, *logic_, [this] { Sync(); },
+      [this] { panel_->Of(Button::CommandSolve)->click(); });
 }
 
 void TesselWindow::Show() {

@@ -11,6 +11,7 @@
 #include "shell/qt/event_pump.h"
 #include "shell/qt/game_actions.h"
 #include "shell/qt/menu_bar.h"
+#include "shell/qt/puzzle_actions.h"
 #include "shell/tessel_main.h"
 
 class QBoxLayout;
@@ -59,6 +60,7 @@ class TesselWindow final : public QWidget, public View {
   QBoxLayout* boardAndPanel_ = nullptr;
   HelpDialog* help_ = nullptr;
   std::optional<GameActions> gameActions_;
+  std::optional<PuzzleActions> puzzleActions_;
 
   // What has changed in the form since the last Sync.
   std::bitset<kCellCount> changedCells_;
