@@ -9,6 +9,7 @@
 #include "tests/hints/hint_player.h"
 #include "tests/layout/layout_checks.h"
 #include "tests/oracle/search/independent_solver.h"
+#include "tests/soak/travel.h"
 
 namespace tessel {
 
@@ -98,6 +99,21 @@ void Player::CheckPuzzle() {
   EXPECT_EQ(file.peek(), std::ifstream::traits_type::eof());
 }
 
+void Player::BringPuzzle() {
+  const NewPuzzleWish wish{.layout = static_cast<maker::LayoutKind>(Draw(3)),
+                           .symmetricGivens = Draw(2) == 0,
+                           .level = static_cast<grade::Level>(1 + Draw(3))};
+  const Puzzle puzzle =
+      Pasted(MadeAsWished(wish, program_.main.DrawSeed()), static_cast<std::size_t>(made.opened));
+  const auto before = std::filesystem::file_size(program_.folder.PuzzleFile());
+  EXPECT_TRUE(program_.main.OpenPuzzle(puzzle));
+  EXPECT_EQ(program_.main.PuzzleAtHand(), puzzle);
+  EXPECT_EQ(std::filesystem::file_size(program_.folder.PuzzleFile()), before);
+  EXPECT_FALSE(program_.main.CanUndo());
+  ++made.opened;
+  program_.view.questions.clear();
+}
+
 void Player::PlayGame() {
   Click(Button::CommandSolve);
   program_.Tick(CheckBox::CheckPencilmarks);
@@ -109,6 +125,8 @@ void Player::PlayGame() {
     if (!hints.Play()) PlaceSomeDigit();
   }
   for (const auto& [name, count] : hints.counts) made.hints += count;
+  EXPECT_EQ(state_.PlayBoard.Board, state_.PlayBoard.Solution);
+  GoBackAndForth();
   EXPECT_EQ(state_.PlayBoard.Board, state_.PlayBoard.Solution);
   if (Draw(2) == 0) Click(Button::CommandQuit);
   ++made.games;
@@ -169,6 +187,18 @@ void Player::PlaceSomeDigit() {
   ClickMark(cell, digit, MouseButton::kLeft);
   EXPECT_EQ(state_.PlayBoard.Board[cell], digit);
   ++made.digitsWithoutHint;
+}
+
+// To the first position and to the last again.
+void Player::GoBackAndForth() {
+  const Position last = state_;
+  long steps = 0;
+  for (; program_.main.CanUndo(); ++steps) program_.main.Undo();
+  EXPECT_TRUE(std::ranges::equal(state_.PlayBoard.Board, state_.SavedPuzzle.Board));
+  made.undone += steps;
+  for (; program_.main.CanRedo(); --steps) program_.main.Redo();
+  EXPECT_EQ(steps, 0);
+  EXPECT_EQ(static_cast<const Position&>(state_), last);
 }
 
 std::string Player::AskHint() {

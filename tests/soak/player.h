@@ -1,5 +1,5 @@
-// A player who makes puzzles of every kind and plays them by hints, mistakes included. What does
-// not hold fails as in a test.
+// A player who makes puzzles of every kind, brings others from elsewhere, and plays them by hints,
+// mistakes included, back and forth. What does not hold fails as in a test.
 #pragma once
 
 #include <string>
@@ -17,6 +17,8 @@ class Player {
   // Saws, fills and conceals in a mode chosen at random, now and then after a command stopped half
   // way, and checks layout, solution, puzzle and file.
   void MakePuzzle();
+  // Opens a puzzle that was made as wished, and pasted in one of the formats.
+  void BringPuzzle();
   // Plays the puzzle to its end.
   void PlayGame();
 
@@ -29,6 +31,8 @@ class Player {
     long repairs = 0;
     long digitsWithoutHint = 0;
     long events = 0;
+    long opened = 0;
+    long undone = 0;  // and done again
   };
   Counts made;
 
@@ -47,6 +51,7 @@ class Player {
   bool Repair(const std::string& sentence);
   void RemoveStaleMarks(int cell);
   void PlaceSomeDigit();
+  void GoBackAndForth();
 
   SeededRandom random_;
   TestProgram program_;

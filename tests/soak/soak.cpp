@@ -32,6 +32,8 @@ class Soak {
     while (Passed() < 1 && !testing::Test::HasFailure()) {
       player.MakePuzzle();
       player.PlayGame();
+      player.BringPuzzle();
+      player.PlayGame();
       const std::string story = user.Play(kEventsOfASession);
       if (!story.empty()) ADD_FAILURE() << story;
       if (Passed() < 0.1 || settled_ == 0) settled_ = ResidentKilobytes();
@@ -49,12 +51,13 @@ class Soak {
     const RandomUser::Counts& clicked = user.Made();
     std::printf(
         "%3.0f%%: %ld puzzles (%ld stops), %ld games, %ld hints, %ld mistakes, %ld repairs, "
-        "%ld digits without a hint, %ld events; random users: %ld events (%ld in pumps, %ld in "
+        "%ld digits without a hint, %ld events, %ld opened, %ld undone; random users: %ld events "
+        "(%ld in pumps, %ld in "
         "questions), %ld puzzles, %ld games; %ld KB, grown by %ld KB\n",
         100 * std::min(Passed(), 1.0), made.puzzles, made.stops, made.games, made.hints,
-        made.mistakes, made.repairs, made.digitsWithoutHint, made.events, clicked.events,
-        clicked.insidePumps, clicked.insideQuestions, clicked.puzzles, clicked.gamesFinished,
-        ResidentKilobytes(), ResidentKilobytes() - settled_);
+        made.mistakes, made.repairs, made.digitsWithoutHint, made.events, made.opened, made.undone,
+        clicked.events, clicked.insidePumps, clicked.insideQuestions, clicked.puzzles,
+        clicked.gamesFinished, ResidentKilobytes(), ResidentKilobytes() - settled_);
     std::fflush(stdout);
   }
 
