@@ -22,27 +22,33 @@ inline constexpr Rgb kHighlightRed{255, 0, 0};
 // The board where no cage is painted: cells with a transparent background show it.
 inline constexpr Rgb kBoardColour{244, 243, 239};
 
-// The background of cages 1..9, at index cage - 1. All nine must differ, from each other and from
-// kBoardColour: the window draws a cage's border where the colours of two cells differ, and takes a
-// mark in the colour of its ground for hidden.
-inline constexpr std::array<Rgb, kSide> kCageColours{{{192, 192, 192},
-                                                      {128, 128, 0},
-                                                      {128, 128, 255},
-                                                      {0, 255, 0},
-                                                      {0, 255, 255},
-                                                      {255, 128, 128},
-                                                      {255, 128, 255},
-                                                      {255, 255, 0},
-                                                      {255, 255, 255}}};
+using CageColours = std::array<Rgb, kSide>;  // index cage - 1
+
+// The background of cages 1..9, as the logic writes it. All nine must differ, from each other and
+// from kBoardColour: to the window they are the cages' names, whatever it paints the cages with.
+inline constexpr CageColours kCageColours{{{192, 192, 192},
+                                           {128, 128, 0},
+                                           {128, 128, 255},
+                                           {0, 255, 0},
+                                           {0, 255, 255},
+                                           {255, 128, 128},
+                                           {255, 128, 255},
+                                           {255, 255, 0},
+                                           {255, 255, 255}}};
+
+// The cage 1..9 that the colour is written for; 0 for any other colour.
+constexpr int CageOfColour(Rgb colour) {
+  for (std::size_t i = 0; i < kCageColours.size(); ++i) {
+    if (kCageColours[i] == colour) return static_cast<int>(i) + 1;
+  }
+  return 0;
+}
 
 static_assert([] {
   for (std::size_t i = 0; i < kCageColours.size(); ++i) {
-    if (kCageColours[i] == kBoardColour) return false;
-    for (std::size_t other = 0; other < i; ++other) {
-      if (kCageColours[i] == kCageColours[other]) return false;
-    }
+    if (CageOfColour(kCageColours[i]) != static_cast<int>(i) + 1) return false;
   }
-  return true;
+  return CageOfColour(kBoardColour) == 0;
 }());
 
 }  // namespace tessel

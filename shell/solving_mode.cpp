@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "core/texts.h"
+#include "shell/board_clicks.h"
 #include "shell/candidate_marks.h"
 
 namespace tessel {
@@ -17,10 +18,7 @@ void SolvingMode::CommandSolve_Click() {
 }
 
 void SolvingMode::Grid_MouseUp(int cell, MouseButton button, CellPosition at) {
-  if (!form_.SolveButtonsVisible() || !form_.Of(Button::CommandSolution).enabled) return;
-  const std::optional<int> digit = DigitAt(at);
-  if (!digit) return;
-  const std::optional<Move> move = Game().Click(state_, cell, button, *digit);
+  const std::optional<Move> move = MoveOf(form_, state_, cell, button, at);
   if (!move) return;
   Make(*move);
   RefreshPencilmarks();
@@ -60,7 +58,7 @@ void SolvingMode::OpenBoard(bool open) {
 
 void SolvingMode::CommandRestart_Click() {
   EndAssignment();
-  Make(Game().Restart(state_));
+  Make(GameOf(state_).Restart(state_));
   if (state_.SavedPuzzle != opened_) EndHistory();
   opened_ = state_.SavedPuzzle;
   for (int cell = 0; cell < kCellCount; ++cell) ShowPuzzleCell(cell);
@@ -75,7 +73,7 @@ void SolvingMode::ShowPuzzleCell(int cell) {
 }
 
 void SolvingMode::CommandSolution_Click() {
-  Make(Game().Solution(state_));
+  Make(GameOf(state_).Solution(state_));
   EndAssignment();
   for (int cell = 0; cell < kCellCount; ++cell) {
     form_.ShowMarks(cell, 0);

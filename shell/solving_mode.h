@@ -23,7 +23,7 @@ class SolvingMode {
   // Quit, once the player has confirmed it.
   void Leave();
   void CheckPencilmarks_Click();
-  // Does nothing unless the solving mode is open and its board is.
+  // Does what MoveOf tells.
   void Grid_MouseUp(int cell, MouseButton button, CellPosition at);
 
   // Every click that changed the position is a step: on the board, on Restart and Solution, on the
@@ -45,7 +45,6 @@ class SolvingMode {
   void RefreshPencilmarks();
   void EndAssignment();
   void OpenBoard(bool open);
-  SolvingGame Game() const { return {LayoutOf(state_), state_.SavedPuzzle}; }
   void ShowPuzzleCell(int cell);
   void ShowSavedCell(int cell);
 

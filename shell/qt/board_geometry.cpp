@@ -10,6 +10,12 @@ namespace tessel {
 namespace {
 
 constexpr int kMinSide = 12;
+constexpr double kMarkShare = 0.25;  // of the cell side
+// Small cells give their marks a larger share, as long as they stay below these many logical
+// pixels.
+constexpr double kLargeMarkShare = 0.3;
+constexpr double kGoodMark = 9.0;
+constexpr double kMinMark = 8.0;
 constexpr double kMinCaptionPoints = 14.0;
 constexpr double kCaptionShare = 0.36;  // of the cell side, once that is more
 constexpr double kBandShare = 1.45;     // of the caption's size: the caption, its arrow, air
@@ -32,6 +38,9 @@ void BoardGeometry::TakeSide(int side, double scale, double pixelsPerPoint) {
   side_ = side;
   border_ = std::max(qRound(3 * scale), side / 14);
   line_ = std::max(1, qFloor(scale));
+  markPixels_ =
+      qRound(std::max({kMarkShare * side, std::min(kLargeMarkShare * side, kGoodMark * scale),
+                       std::min(side / 3.0, kMinMark * scale)}));
   captionPixels_ =
       std::max(qCeil(kMinCaptionPoints * pixelsPerPoint), qRound(kCaptionShare * side));
   band_ = qRound(kBandShare * captionPixels_);

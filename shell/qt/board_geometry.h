@@ -30,6 +30,10 @@ class BoardGeometry {
   int BorderWidth() const { return border_; }
   // Of the line between two cells of one cage.
   int LineWidth() const { return line_; }
+  // How far lines may reach into a cell from its edge: the inner half of a border.
+  int LineReach() const { return (border_ + 1) / 2; }
+  // The pixel size of the marks' font: a larger share of small cells.
+  int MarkPixels() const { return markPixels_; }
   // The pixel size of the row and column captions.
   int CaptionPixels() const { return captionPixels_; }
 
@@ -51,6 +55,7 @@ class BoardGeometry {
   int side_ = 0;
   int border_ = 0;
   int line_ = 0;
+  int markPixels_ = 0;
   int captionPixels_ = 0;
   int band_ = 0;    // width of the captions' strip at the left and at the top
   int margin_ = 0;  // between the cells and the panel's right and lower edge

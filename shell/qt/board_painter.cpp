@@ -3,17 +3,18 @@
 #include <QFontMetrics>
 #include <QPainter>
 #include <QtMath>
+#include <algorithm>
 
 #include "core/cage_edges.h"
+#include "shell/board_clicks.h"
+#include "shell/qt/board_outlines.h"
 
 namespace tessel {
 
 namespace {
 
 constexpr double kDigitShare = 0.6;  // of the cell side
-constexpr double kMarkShare = 0.25;
 const QColor kInnerLine(0, 0, 0, 80);
-const QColor kFocusRing(0, 60, 200);
 
 QColor ToColour(Rgb colour) {
   return {colour.red, colour.green, colour.blue};
@@ -27,30 +28,36 @@ QFont SizedFont(QFont font, int pixels, bool bold) {
   return font;
 }
 
-// Centres by advance and cap height, so that equal digits sit equally whatever their shape.
+// The box of text that is centred by advance and cap height, so that equal digits sit equally
+// whatever their shape.
+QRect CentredBox(const QFontMetrics& metrics, const QRect& place, const QString& text) {
+  const int width = metrics.horizontalAdvance(text);
+  const int height = metrics.capHeight();
+  return {place.left() + (place.width() - width) / 2, place.top() + (place.height() - height) / 2,
+          width, height};
+}
+
+void DrawInBox(QPainter& painter, const QRect& box, const QString& text) {
+  painter.drawText(box.left(), box.top() + box.height(), text);
+}
+
 void DrawCentred(QPainter& painter, const QRect& place, const QString& text) {
-  const QFontMetrics metrics(painter.font());
-  const int left = place.left() + (place.width() - metrics.horizontalAdvance(text)) / 2;
-  const int baseline = place.top() + (place.height() + metrics.capHeight()) / 2;
-  painter.drawText(left, baseline, text);
+  DrawInBox(painter, CentredBox(QFontMetrics(painter.font()), place, text), text);
 }
 
 QString DigitText(int digit) {
   return QString(QChar('0' + digit));
 }
 
-// The band between `from` and `to` pixels inside the outline of `cells`. A cell is so much larger
-// than the band that the four diagonal shifts find every place near the outline.
-QRegion Ring(const QRegion& cells, int from, int to) {
-  const auto shrunk = [&cells](int by) {
-    return cells.translated(by, by) & cells.translated(-by, -by) & cells.translated(by, -by) &
-           cells.translated(-by, by);
-  };
-  return shrunk(from) - shrunk(to);
-}
-
-void FillRegion(QPainter& painter, const QRegion& region, const QColor& colour) {
-  for (const QRect& part : region) painter.fillRect(part, colour);
+// The row or column whose caption alone is red.
+std::optional<int> OnlyRed(const auto& captionOf) {
+  std::optional<int> found;
+  for (int line = 0; line < kSide; ++line) {
+    if (captionOf(line) != kHighlightRed) continue;
+    if (found) return std::nullopt;
+    found = line;
+  }
+  return found;
 }
 
 }  // namespace
@@ -71,10 +78,18 @@ BoardPainter::BoardPainter(const Form& form, const GameState& state, const Board
       state_(state),
       geometry_(geometry),
       digitFont_(SizedFont(font, qRound(kDigitShare * geometry.CellSide()), true)),
-      markFont_(SizedFont(font, qRound(kMarkShare * geometry.CellSide()), false)),
+      markFont_(SizedFont(font, geometry.MarkPixels(), false)),
       captionFont_(SizedFont(font, geometry.CaptionPixels(), true)) {}
 
-// Outlines lie under the text, so that they never hide a mark, and borders over everything.
+int BoardPainter::CageOf(int cell) const {
+  return CageOfColour(form_.Cell(cell).PaintedBackground());
+}
+
+QColor BoardPainter::Shown(Rgb colour) const {
+  const int cage = CageOfColour(colour);
+  return ToColour(cage == 0 ? colour : cageColours_[static_cast<std::size_t>(cage - 1)]);
+}
+
 void BoardPainter::Paint(QPainter& painter, const QRegion& region,
                          const BoardHighlights& highlights) const {
   painter.setClipRegion(region);
@@ -82,14 +97,14 @@ void BoardPainter::Paint(QPainter& painter, const QRegion& region,
   const auto touched = [&](int cell) { return region.intersects(geometry_.CellRect(cell)); };
   for (int cell = 0; cell < kCellCount; ++cell) {
     const Rgb ground = form_.Cell(cell).PaintedBackground();
-    if (touched(cell)) painter.fillRect(geometry_.CellRect(cell), ToColour(ground));
+    if (touched(cell)) painter.fillRect(geometry_.CellRect(cell), Shown(ground));
   }
   PaintLines(painter, region, Line::kThin);
-  PaintHighlights(painter, highlights);
   for (int cell = 0; cell < kCellCount; ++cell) {
     if (touched(cell)) PaintText(painter, cell);
   }
   PaintLines(painter, region, Line::kBorder);
+  PaintHighlights(painter, highlights);
 }
 
 void BoardPainter::PaintCaptions(QPainter& painter) const {
@@ -145,9 +160,21 @@ void BoardPainter::PaintMarks(QPainter& painter, int cell) const {
     QFont font = markFont_;
     font.setBold(mark.bold);
     painter.setFont(font);
-    painter.setPen(ToColour(mark.colour));
-    DrawCentred(painter, geometry_.MarkRect(cell, digit), DigitText(digit));
+    painter.setPen(Shown(mark.colour));
+    DrawInBox(painter, MarkInk(cell, digit), DigitText(digit));
   }
+}
+
+// In the middle of its square, or as near to it as the lines leave room.
+QRect BoardPainter::MarkInk(int cell, int digit) const {
+  QFont font = markFont_;
+  font.setBold(form_.Mark(cell, digit).bold);
+  QRect box = CentredBox(QFontMetrics(font), geometry_.MarkRect(cell, digit), DigitText(digit));
+  const int reach = geometry_.LineReach();
+  const QRect room = geometry_.CellRect(cell).adjusted(reach, reach, -reach, -reach);
+  box.moveLeft(std::clamp(box.left(), room.left(), room.right() + 1 - box.width()));
+  box.moveTop(std::clamp(box.top(), room.top(), room.bottom() + 1 - box.height()));
+  return box;
 }
 
 void BoardPainter::PaintLines(QPainter& painter, const QRegion& region, Line line) const {
@@ -172,10 +199,8 @@ void BoardPainter::PaintEdges(QPainter& painter, int cell, Line line) const {
   const auto drawHorizontal = [&](int y) {
     painter.fillRect(place.left() - before, y - before, place.width() + overlap, width, colour);
   };
-  const auto sameGround = [this](int a, int b) {
-    return form_.Cell(a).PaintedBackground() == form_.Cell(b).PaintedBackground();
-  };
-  const auto isBorder = [&](CellSide side) { return IsWall(cell, side, sameGround); };
+  const auto sameCage = [this](int a, int b) { return CageOf(a) == CageOf(b); };
+  const auto isBorder = [&](CellSide side) { return IsWall(cell, side, sameCage); };
   const auto atFrame = [&](CellSide side) { return !NeighbourBeyond(cell, side); };
   if (isBorder(CellSide::kLeft) == border) drawVertical(place.left());
   if (isBorder(CellSide::kTop) == border) drawHorizontal(place.top());
@@ -191,34 +216,49 @@ QRegion BoardPainter::RegionOf(const auto& contains) const {
   return region;
 }
 
-// Outlines only: a tint would uncover the marks that hide in the colour of their cage. Black and
-// white side by side show on every cage colour.
 void BoardPainter::PaintHighlights(QPainter& painter, const BoardHighlights& highlights) const {
+  BoardOutlines outlines(painter, geometry_);
+  if (!IsBoardOpen(form_)) {
+    if (highlights.focused) outlines.FocusBoard();
+    return;
+  }
+  if (highlights.active) PaintCrosshair(painter, *highlights.active);
+  if (const auto hinted = HintedCell()) outlines.Hint(*hinted);
+  if (highlights.focused) outlines.Focus(*highlights.focused);
+  if (highlights.target) PaintTarget(painter, *highlights.target);
+}
+
+void BoardPainter::PaintCrosshair(QPainter& painter, int active) const {
+  BoardOutlines outlines(painter, geometry_);
+  outlines.Surround(RegionOf([&](int cell) { return RowOf(cell) == RowOf(active); }));
+  outlines.Surround(RegionOf([&](int cell) { return ColumnOf(cell) == ColumnOf(active); }));
+  outlines.Surround(RegionOf([&](int cell) { return CageOf(cell) == CageOf(active); }));
+  outlines.Point(active);
+}
+
+// Over the borders: at the cell's edge the ring has no other room.
+void BoardPainter::PaintTarget(QPainter& painter, const TargetMark& target) const {
+  const QRect place = geometry_.MarkRect(target.cell, target.digit);
   const int line = geometry_.LineWidth();
-  const int inside = (geometry_.BorderWidth() + 1) / 2;
-  const auto outline = [&](const QRegion& cells, int width, const QColor& outer,
-                           const QColor& inner) {
-    FillRegion(painter, Ring(cells, inside, inside + width), outer);
-    FillRegion(painter, Ring(cells, inside + width, inside + width + line), inner);
-  };
-  if (highlights.active) {
-    const int active = *highlights.active;
-    const DisplayedCell& look = form_.Cell(active);
-    outline(RegionOf([&](int cell) { return RowOf(cell) == RowOf(active); }), line, Qt::white,
-            Qt::black);
-    outline(RegionOf([&](int cell) { return ColumnOf(cell) == ColumnOf(active); }), line, Qt::white,
-            Qt::black);
-    if (look.opaque) {
-      outline(RegionOf([&](int cell) {
-                return form_.Cell(cell).PaintedBackground() == look.background;
-              }),
-              2 * line, Qt::white, Qt::black);
-    }
-    outline(geometry_.CellRect(active), 2 * line, Qt::white, Qt::black);
-  }
-  if (highlights.focused) {
-    outline(geometry_.CellRect(*highlights.focused), 3 * line, kFocusRing, Qt::white);
-  }
+  const int air = place.width() / 16;
+  const QRect outer = place.adjusted(air, air, -air, -air);
+  const QRect ring = outer.adjusted(line, line, -line, -line);
+  const QRect inner = ring.adjusted(line, line, -line, -line);
+  const QColor ground = Shown(form_.Cell(target.cell).PaintedBackground());
+  painter.fillRect(outer, Qt::white);
+  painter.fillRect(ring, Qt::black);
+  if (!target.pressed) painter.fillRect(inner, ground);
+  painter.setFont(markFont_);
+  painter.setPen(target.pressed ? QColor(Qt::white) : QColor(Qt::black));
+  DrawInBox(painter, MarkInk(target.cell, target.digit), DigitText(target.digit));
+}
+
+// Where the red row and the red column of a hint cross, if there is one of each.
+std::optional<int> BoardPainter::HintedCell() const {
+  const auto row = OnlyRed([this](int line) { return form_.LabelRow(line); });
+  const auto column = OnlyRed([this](int line) { return form_.LabelColumn(line); });
+  if (!row || !column) return std::nullopt;
+  return CellAt(*row, *column);
 }
 
 }  // namespace tessel

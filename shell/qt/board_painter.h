@@ -5,6 +5,7 @@
 #include <QRegion>
 #include <optional>
 
+#include "core/colour.h"
 #include "core/form.h"
 #include "core/game_state.h"
 #include "shell/qt/board_geometry.h"
@@ -13,10 +14,20 @@ class QPainter;
 
 namespace tessel {
 
-// Cells that the player points at, each 0..80 if there is one.
+// A mark that a left click would place, and whether the button is down on it.
+struct TargetMark {
+  int cell = 0;
+  int digit = 0;
+  bool pressed = false;
+
+  friend bool operator==(const TargetMark&, const TargetMark&) = default;
+};
+
+// What the player points at; cells are 0..80.
 struct BoardHighlights {
-  std::optional<int> active;   // outlined with its cage, row and column
-  std::optional<int> focused;  // wears the keyboard's focus ring
+  std::optional<int> active = {};         // outlined with its cage, row and column
+  std::optional<int> focused = {};        // wears the keyboard's focus ring
+  std::optional<TargetMark> target = {};  // wears a ring of its own
 };
 
 // Whether the digit shown in the cell was put there by the player and not by the puzzle.
@@ -31,11 +42,18 @@ class BoardPainter {
   BoardPainter(const Form& form, const GameState& state, const BoardGeometry& geometry,
                const QFont& font);
 
-  // Paints the parts that meet `region`. The painter's coordinates are the geometry's.
+  // The colours that cages are painted with; they need not differ. Those of the form at first.
+  void SetCageColours(const CageColours& colours) { cageColours_ = colours; }
+
+  // Paints the parts that meet `region`. The painter's coordinates are the geometry's. Highlights
+  // are shown where clicks act.
   void Paint(QPainter& painter, const QRegion& region, const BoardHighlights& highlights) const;
 
+  // Where the ink of a mark lies, whether or not it is shown.
+  QRect MarkInk(int cell, int digit) const;
+
  private:
-  // Between two cells of one ground, or between two grounds and round the board.
+  // Between two cells of one cage, or between two cages and round the board.
   enum class Line { kThin, kBorder };
 
   void PaintCaptions(QPainter& painter) const;
@@ -47,10 +65,18 @@ class BoardPainter {
   void PaintEdges(QPainter& painter, int cell, Line line) const;
   QRegion RegionOf(const auto& contains) const;
   void PaintHighlights(QPainter& painter, const BoardHighlights& highlights) const;
+  void PaintCrosshair(QPainter& painter, int active) const;
+  void PaintTarget(QPainter& painter, const TargetMark& target) const;
+  std::optional<int> HintedCell() const;
+  // The cage that the cell is painted as, 0 for none.
+  int CageOf(int cell) const;
+  // What the window shows for a colour of the form.
+  QColor Shown(Rgb colour) const;
 
   const Form& form_;
   const GameState& state_;
   const BoardGeometry& geometry_;
+  CageColours cageColours_ = kCageColours;
   QFont digitFont_;
   QFont markFont_;
   QFont captionFont_;

@@ -6,6 +6,7 @@
 #include <QtMath>
 #include <algorithm>
 
+#include "shell/board_clicks.h"
 #include "shell/qt/board_accessible.h"
 
 namespace tessel {
@@ -122,7 +123,7 @@ void BoardWidget::paintEvent(QPaintEvent* event) {
   for (const QRect& part : event->region()) {
     region += QRectF(QPointF(part.topLeft()) * scale, QSizeF(part.size()) * scale).toAlignedRect();
   }
-  BoardHighlights highlights;
+  BoardHighlights highlights{.target = target_};
   if (hasFocus()) highlights.active = highlights.focused = focusedCell_;
   if (hoveredCell_) highlights.active = hoveredCell_;
   const BoardGeometry geometry = Geometry();
@@ -130,6 +131,7 @@ void BoardWidget::paintEvent(QPaintEvent* event) {
 }
 
 void BoardWidget::mousePressEvent(QMouseEvent* event) {
+  FollowMouse(*event);
   if (!ButtonOf(event->button())) return;
   if (const auto point = PointAt(event->position())) FocusCell(point->cell);
 }
@@ -137,6 +139,7 @@ void BoardWidget::mousePressEvent(QMouseEvent* event) {
 // The place of the release alone says which cell is meant, and which digit. Letting go beside the
 // board takes the press back.
 void BoardWidget::mouseReleaseEvent(QMouseEvent* event) {
+  FollowMouse(*event);
   const auto button = ButtonOf(event->button());
   const auto point = PointAt(event->position());
   if (!button || !point) return;
@@ -145,12 +148,37 @@ void BoardWidget::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void BoardWidget::mouseMoveEvent(QMouseEvent* event) {
-  const auto point = PointAt(event->position());
-  SetHoveredCell(point ? std::optional(point->cell) : std::nullopt);
+  FollowMouse(*event);
+  SetHoveredCell(mouse_ ? std::optional(mouse_->cell) : std::nullopt);
 }
 
 void BoardWidget::leaveEvent(QEvent*) {
   SetHoveredCell(std::nullopt);
+  mouse_.reset();
+  UpdateTarget();
+}
+
+void BoardWidget::FollowMouse(const QMouseEvent& event) {
+  mouse_ = PointAt(event.position());
+  leftDown_ = event.buttons().testFlag(Qt::LeftButton);
+  UpdateTarget();
+}
+
+std::optional<TargetMark> BoardWidget::TargetUnderMouse() const {
+  if (!mouse_ || form_ == nullptr) return std::nullopt;
+  const CellPosition at{mouse_->x, mouse_->y};
+  if (!MoveOf(*form_, *state_, mouse_->cell, MouseButton::kLeft, at)) return std::nullopt;
+  return TargetMark{mouse_->cell, DigitAt(at).value(), leftDown_};
+}
+
+void BoardWidget::UpdateTarget() {
+  const auto target = TargetUnderMouse();
+  if (target == target_) return;
+  for (const auto& changed : {target_, target}) {
+    if (changed) update(CellRect(changed->cell).toAlignedRect());
+  }
+  target_ = target;
+  target_ ? setCursor(Qt::PointingHandCursor) : unsetCursor();
 }
 
 void BoardWidget::focusInEvent(QFocusEvent*) {

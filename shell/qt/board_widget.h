@@ -26,6 +26,8 @@ class BoardWidget final : public QWidget {
 
   void UpdateCell(int cell);
   void UpdateCaptions();
+  // Call it when anything has changed that decides what a click does.
+  void UpdateTarget();
 
   BoardGeometry Geometry() const;
   // Where the cell lies, in the widget's own coordinates.
@@ -56,6 +58,8 @@ class BoardWidget final : public QWidget {
   std::optional<CellPoint> PointAt(QPointF position) const;
   QPointF PixelShift() const;
   void SetHoveredCell(std::optional<int> cell);
+  void FollowMouse(const QMouseEvent& event);
+  std::optional<TargetMark> TargetUnderMouse() const;
   bool MoveFocus(int key);
   bool ActOnKey(const QKeyEvent& event);
   void ReleaseOnMark(int digit, MouseButton button);
@@ -63,6 +67,9 @@ class BoardWidget final : public QWidget {
   const Form* form_ = nullptr;
   const GameState* state_ = nullptr;
   int focusedCell_ = kCentreCell;
+  std::optional<CellPoint> mouse_;  // where it is on the board
+  bool leftDown_ = false;
+  std::optional<TargetMark> target_;
   std::optional<int> hoveredCell_;  // by the mouse, until a key moves the focus
 };
 

@@ -161,6 +161,7 @@ void TesselWindow::Sync() {
   changedCells_.reset();
   if (std::exchange(changedCaptions_, false)) board_->UpdateCaptions();
   if (std::exchange(changedControls_, false)) SyncControls();
+  board_->UpdateTarget();
   menu_->Update();
 }
 
@@ -174,6 +175,7 @@ void TesselWindow::SyncControls() {
     QWidget* const stop = form.Running() ? panel_->Of(*form.Running()) : nullptr;
     (stop != nullptr && stop->isEnabled() ? stop : board_)->setFocus(Qt::TabFocusReason);
   }
+  board_->update();  // its outlines tell whether clicks act
   setWindowTitle(QString::fromStdString(form.Caption()));
   notice_->setText(QString::fromStdString(form.Notice()));
   notice_->setToolTip(notice_->text());

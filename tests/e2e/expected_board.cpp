@@ -23,17 +23,20 @@ ExpectedBoard::ExpectedBoard(const PuzzleRecord& puzzle, bool solving, const Dig
     : ExpectedBoard() {
   if (redCaptions) form_.HighlightCell(*redCaptions);
   form_.ShowSolveButtons(solving);
+  bool full = true;
   state_.SavedPuzzle = puzzle;
   SetLayout(state_, LayoutOfCages(puzzle.CageMap));
   for (int cell = 0; cell < kCellCount; ++cell) {
     form_.SetCellOpaque(cell, true);
     form_.SetCellBackground(cell, kCageColours[puzzle.CageMap[cell] - 1]);
     form_.SetCellText(cell, digitOf(cell));
+    full = full && digitOf(cell) != 0;
     for (int digit = 1; digit <= kSide; ++digit) {
       form_.SetMarkColour(cell, digit, kBlack);
       form_.SetMarkVisible(cell, digit, showsMark(cell, digit));
     }
   }
+  form_.Enable(Button::CommandSolution, !full);
 }
 
 ExpectedBoard ExpectedBoard::Empty() {

@@ -23,7 +23,8 @@ class ExpectedBoard {
   // The givens alone.
   static ExpectedBoard Concealed(const PuzzleRecord& puzzle);
   // The captions of the row and column of `redCaptions` are red.
-  static ExpectedBoard Playing(const ExpectedGame& game, std::optional<int> redCaptions);
+  static ExpectedBoard Playing(const ExpectedGame& game,
+                               std::optional<int> redCaptions = std::nullopt);
   // After the button "Solution".
   static ExpectedBoard Solved(const PuzzleRecord& puzzle);
 

@@ -68,6 +68,19 @@ void DesktopWindow::Click(QPoint place, MouseKey button) const {
                     QString::number(static_cast<int>(button))});
 }
 
+void DesktopWindow::PointAt(QPoint place, bool press) const {
+  QStringList orders{"mousemove", "--window", id_, QString::number(place.x()),
+                     QString::number(place.y())};
+  if (press)
+    orders << "mousedown"
+           << "1";
+  TheDesktop().Xdo(orders);
+}
+
+void DesktopWindow::LetGo() const {
+  TheDesktop().Xdo({"mouseup", "1"});
+}
+
 bool DesktopWindow::IsActive() const {
   return TheDesktop().Xdo({"getactivewindow"}) == id_;
 }

@@ -35,6 +35,9 @@ class DesktopWindow {
   bool MovesAside() const;
   // A mouse button pressed and released.
   void Click(QPoint place, MouseKey button = MouseKey::kLeft) const;
+  // The mouse moved there, and its left button pressed there if so. The button comes up again.
+  void PointAt(QPoint place, bool press = false) const;
+  void LetGo() const;
   // Whether the keyboard's input goes to this window.
   bool IsActive() const;
   // Presses the keys, as xdotool names them, one after another; waits until the window is active.

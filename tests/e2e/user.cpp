@@ -194,7 +194,7 @@ testing::AssertionResult User::SeesBoard(const ExpectedBoard& board) const {
     return Recognises(seen, board);
   };
   return Eventually(looksSo) ? testing::AssertionSuccess()
-                             : Differs(twin_.Board(board, focusedCell_), seen);
+                             : Differs(twin_.Board(board, Focus()), seen);
 }
 
 // The pointer would outline what it points at.
@@ -205,7 +205,38 @@ QImage User::LooksAtBoard() const {
 }
 
 bool User::Recognises(const QImage& picture, const ExpectedBoard& board) const {
-  return picture == twin_.Board(board, std::nullopt) || picture == twin_.Board(board, focusedCell_);
+  return picture == twin_.Board(board, {}) || picture == twin_.Board(board, Focus());
+}
+
+BoardHighlights User::Focus() const {
+  return {.active = focusedCell_, .focused = focusedCell_};
+}
+
+testing::AssertionResult User::SeesTarget(const ExpectedBoard& board, const TargetMark& target) {
+  program_.Window().PointAt(twin_.MarkPlace(target.cell, target.digit), target.pressed);
+  if (target.pressed) focusedCell_ = target.cell;
+  BoardHighlights highlights = Focus();
+  highlights.active = target.cell;
+  highlights.target = target;
+  return SeesHighlights(board, highlights);
+}
+
+testing::AssertionResult User::SeesNoTarget(const ExpectedBoard& board, int cell, int digit) {
+  program_.Window().PointAt(twin_.MarkPlace(cell, digit));
+  BoardHighlights highlights = Focus();
+  highlights.active = cell;
+  return SeesHighlights(board, highlights);
+}
+
+testing::AssertionResult User::SeesHighlights(const ExpectedBoard& board,
+                                              const BoardHighlights& highlights) const {
+  const QImage expected = twin_.Board(board, highlights);
+  QImage seen;
+  const auto looksSo = [&] {
+    seen = LooksAt(twin_.AreaOfBoard());
+    return seen == expected;
+  };
+  return Eventually(looksSo) ? testing::AssertionSuccess() : Differs(expected, seen);
 }
 
 QImage User::LooksAt(const QRect& area) const {

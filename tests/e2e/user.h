@@ -61,6 +61,12 @@ class User {
   testing::AssertionResult SeesSolveButtons(bool visible) const;
   testing::AssertionResult SeesBoard(const ExpectedBoard& board) const;
 
+  // Moves the mouse onto a mark and, if it is to be pressed, holds the left button down there.
+  // Whether the board comes to show that a click would place the mark, or that it would not; the
+  // board must have the keyboard's focus.
+  testing::AssertionResult SeesTarget(const ExpectedBoard& board, const TargetMark& target);
+  testing::AssertionResult SeesNoTarget(const ExpectedBoard& board, int cell, int digit);
+
   // What the board shows now, and whether it is that.
   QImage LooksAtBoard() const;
   bool Recognises(const QImage& picture, const ExpectedBoard& board) const;
@@ -71,6 +77,9 @@ class User {
 
  private:
   QImage LooksAt(const QRect& area) const;
+  BoardHighlights Focus() const;
+  testing::AssertionResult SeesHighlights(const ExpectedBoard& board,
+                                          const BoardHighlights& highlights) const;
 
   RunningProgram program_;
   WindowTwin twin_;

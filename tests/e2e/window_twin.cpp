@@ -56,12 +56,10 @@ QString WindowTwin::ShortcutOf(const char* control) const {
   return Find<QWidget>(control).toolTip().section('\n', -1);
 }
 
-QImage WindowTwin::Board(const ExpectedBoard& board, std::optional<int> focusedCell) const {
+QImage WindowTwin::Board(const ExpectedBoard& board, const BoardHighlights& highlights) const {
   QImage image(BoardOf().size(), QImage::Format_RGB32);
   image.fill(window_.palette().color(QPalette::Window));
   QPainter painter(&image);
-  BoardHighlights highlights;
-  highlights.active = highlights.focused = focusedCell;
   const BoardGeometry geometry = BoardOf().Geometry();
   BoardPainter(board.form(), board.state(), geometry, BoardOf().font())
       .Paint(painter, image.rect(), highlights);

@@ -30,8 +30,8 @@ class WindowTwin {
   // The control's shortcut as its tooltip tells it, "Alt+S".
   QString ShortcutOf(const char* control) const;
 
-  // The board as it must look, with the keyboard's focus in a cell if it has it.
-  QImage Board(const ExpectedBoard& board, std::optional<int> focusedCell) const;
+  // The board as it must look.
+  QImage Board(const ExpectedBoard& board, const BoardHighlights& highlights) const;
   QImage Button(const char* button, const char* caption, bool enabled);
   // The button of a command that runs.
   QImage RunningButton(tessel::Button button, const char* caption);

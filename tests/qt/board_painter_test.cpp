@@ -117,15 +117,6 @@ TEST_P(BoardPainterAt, InvisibleMarkIsNotDrawnWhateverItsColour) {
   EXPECT_EQ(ColoursIn(board.Paint(), board.Interior(kCentreCell)).size(), 1u);
 }
 
-// How dark a part is, whatever the smoothing.
-long Ink(const QImage& image, const QRect& part) {
-  long ink = 0;
-  for (int y = part.top(); y <= part.bottom(); ++y) {
-    for (int x = part.left(); x <= part.right(); ++x) ink += 255 - qGray(image.pixel(x, y));
-  }
-  return ink;
-}
-
 TEST_P(BoardPainterAt, EmphasisedMarkIsBold) {
   board.form.SetMarkColour(0, 5, kBlack);
   const QRect square = board.geometry.MarkRect(0, 5);
@@ -195,42 +186,26 @@ TEST_P(BoardPainterAt, PaintingAPartEqualsPaintingAll) {
   EXPECT_EQ(image, board.Paint());
 }
 
-TEST_P(BoardPainterAt, HighlightsOutlineAndDoNotTint) {
+TEST_P(BoardPainterAt, CagesOfOneColourKeepTheirBordersAndHideTheirMarks) {
   board.PaintRegularCages();
-  const QImage plain = board.Paint();
-  for (const BoardHighlights& highlights :
-       {BoardHighlights{kCentreCell, {}}, BoardHighlights{40, 40}}) {
-    const QImage image = board.Paint(highlights);
-    EXPECT_NE(image, plain);
-    for (int cell = 0; cell < kCellCount; ++cell) {
-      const int away = board.geometry.CellSide() / 3;
-      const QRect middle = board.geometry.CellRect(cell).adjusted(away, away, -away, -away);
-      EXPECT_EQ(ColoursIn(image, middle), ColoursIn(plain, middle)) << cell;
-    }
+  board.form.SetMarkColour(kCentreCell, 5, kBlack);
+  board.cageColours.fill(Rgb{200, 210, 220});
+  const QImage image = board.Paint();
+  const int width = board.geometry.BorderWidth();
+  ForEveryEdge([&](int cell, int neighbour) {
+    const QRect edge = EdgeBetween(board, cell, neighbour, width);
+    const bool border = board.form.Cell(cell).background != board.form.Cell(neighbour).background;
+    EXPECT_EQ(CountIn(image, edge, Qt::black), border ? edge.width() * edge.height() : 0);
+  });
+  for (int cell = 0; cell < kCellCount; ++cell) {
+    const auto colours = ColoursIn(image, board.Interior(cell));
+    EXPECT_TRUE(colours.contains(qRgb(200, 210, 220)));
+    EXPECT_EQ(colours.size() == 1, cell != kCentreCell) << cell;
   }
 }
 
-TEST_P(BoardPainterAt, PointingMarksCellCageRowAndColumn) {
-  board.PaintRegularCages();
-  const QImage plain = board.Paint();
-  const QImage image = board.Paint({.active = 10, .focused = {}});
-  for (int cell = 0; cell < kCellCount; ++cell) {
-    const QRect place = board.Interior(cell);
-    const bool marked = RowOf(cell) == 1 || ColumnOf(cell) == 1 ||
-                        (RowOf(cell) < 3 && ColumnOf(cell) < 3 && cell != 10);
-    EXPECT_EQ(plain.copy(place) != image.copy(place), marked) << cell;
-  }
-}
-
-TEST_P(BoardPainterAt, OutlinesLeaveMarksReadable) {
-  board.PaintRegularCages();
-  for (int cell = 0; cell < kCellCount; ++cell) board.form.SetMarksColour(cell, kBlack);
-  const QImage plain = board.Paint();
-  const QImage image = board.Paint({.active = kCentreCell, .focused = kCentreCell});
-  for (int cell = 0; cell < kCellCount; ++cell) {
-    const QRect place = board.Interior(cell);
-    EXPECT_GE(CountIn(image, place, Qt::black), CountIn(plain, place, Qt::black)) << cell;
-  }
+TEST_P(BoardPainterAt, MarksAreAtLeastEightPixels) {
+  EXPECT_GE(board.geometry.MarkPixels(), 8 * GetParam().second);
 }
 
 }  // namespace

@@ -28,6 +28,9 @@ class BoardWidget : public testing::Test {
  protected:
   BoardWidget() {
     FillTables(state);
+    SetLayout(state, Layout::Regular());
+    state.Candidates.fill(BitOf(2) | BitOf(7));
+    form.ShowSolveButtons(true);
     board.SetSource(form, state);
     board.resize(500, 430);
     board.show();
@@ -247,6 +250,50 @@ TEST_F(BoardWidget, PointingOutlinesUntilTheMouseLeaves) {
   QEvent leave(QEvent::Leave);
   QCoreApplication::sendEvent(&board, &leave);
   EXPECT_EQ(board.grab().toImage(), before);
+}
+
+// The mark under the mouse is told by its looks and by the cursor, whenever a left click would act.
+TEST_F(BoardWidget, TellsTheMarkThatAClickWouldPlace) {
+  board.setFocusPolicy(Qt::NoFocus);
+  board.clearFocus();
+  const auto picture = [this](QPoint place) {
+    QTest::mouseMove(&board, place);
+    return board.grab().toImage();
+  };
+  const QImage idle = picture(Mark(20, 5));
+  EXPECT_NE(board.cursor().shape(), Qt::PointingHandCursor);
+  const QImage ringed = picture(Mark(20, 2));
+  EXPECT_NE(ringed, idle);
+  EXPECT_EQ(board.cursor().shape(), Qt::PointingHandCursor);
+  QTest::mousePress(&board, Qt::LeftButton, {}, Mark(20, 2));
+  const QImage pressed = board.grab().toImage();
+  EXPECT_NE(pressed, ringed);
+  QTest::mouseMove(&board, Mark(20, 5));
+  EXPECT_NE(board.cursor().shape(), Qt::PointingHandCursor) << "the press follows the mouse";
+  QTest::mouseRelease(&board, Qt::LeftButton, {}, Mark(20, 2));
+  EXPECT_EQ(board.cursor().shape(), Qt::PointingHandCursor);
+  state.PlayBoard.Board[20] = 2;
+  board.UpdateTarget();
+  EXPECT_NE(board.cursor().shape(), Qt::PointingHandCursor) << "as after a click that acted";
+}
+
+TEST_F(BoardWidget, TargetIsWhatTheRulesOfTheGamePlace) {
+  state.Candidates[20] = 0;
+  state.Candidates[21] = BitOf(9);
+  state.SavedPuzzle.Board[22] = 2;  // a given
+  const auto isTarget = [this](int cell, int digit) {
+    QTest::mouseMove(&board, Mark(cell, digit));
+    return board.cursor().shape() == Qt::PointingHandCursor;
+  };
+  for (int digit = 1; digit <= kSide; ++digit) {
+    EXPECT_FALSE(isTarget(20, digit));
+    EXPECT_EQ(isTarget(21, digit), digit == 9);
+    EXPECT_FALSE(isTarget(22, digit));
+  }
+  state.PencilmarkMode = MarkMode::kNotUpdated;
+  EXPECT_TRUE(isTarget(20, 6));
+  form.Enable(Button::CommandSolution, false);
+  EXPECT_FALSE(isTarget(21, 9)) << "the game is over";
 }
 
 }  // namespace

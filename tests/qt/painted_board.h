@@ -34,6 +34,15 @@ inline int CountIn(const QImage& image, const QRect& part, QColor colour) {
   return count;
 }
 
+// How dark a part is, whatever the smoothing.
+inline long Ink(const QImage& image, const QRect& part) {
+  long ink = 0;
+  for (int y = part.top(); y <= part.bottom(); ++y) {
+    for (int x = part.left(); x <= part.right(); ++x) ink += 255 - qGray(image.pixel(x, y));
+  }
+  return ink;
+}
+
 struct PaintedBoard {
   explicit PaintedBoard(int side = 600, double scale = 1.0)
       : geometry(QSize(side, side), scale, 96.0 / 72.0 * scale) {
@@ -50,6 +59,9 @@ struct PaintedBoard {
     }
   }
 
+  // Clicks act now.
+  void Open() { form.ShowSolveButtons(true); }
+
   QImage Paint(const BoardHighlights& highlights = {}) const {
     QImage image(geometry.PanelRect().bottomRight().x() + 1,
                  geometry.PanelRect().bottomRight().y() + 1, QImage::Format_RGB32);
@@ -59,7 +71,12 @@ struct PaintedBoard {
   }
   void Paint(QImage& image, const QRegion& region, const BoardHighlights& highlights = {}) const {
     QPainter painter(&image);
-    BoardPainter(form, state, geometry, QGuiApplication::font()).Paint(painter, region, highlights);
+    Painter().Paint(painter, region, highlights);
+  }
+  BoardPainter Painter() const {
+    BoardPainter painter(form, state, geometry, QGuiApplication::font());
+    painter.SetCageColours(cageColours);
+    return painter;
   }
   // The part of the cell that borders and lines do not reach.
   QRect Interior(int cell) const {
@@ -71,6 +88,7 @@ struct PaintedBoard {
   Form form{view};
   GameState state;
   BoardGeometry geometry;
+  CageColours cageColours = kCageColours;
 };
 
 }  // namespace tessel

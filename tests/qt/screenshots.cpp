@@ -1,6 +1,7 @@
 // Writes a picture of every stage of the program. docs/screenshots runs it for every scale.
 #include <QApplication>
 #include <QDir>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QTimer>
 #include <cstdio>
@@ -52,6 +53,12 @@ class Photographer {
     Click(Button::CommandSolve);
     Board().FocusCell(EmptyCell(30));
     Take("6-solving");
+    PointAt(EmptyCell(40));
+    Take("6-pointing");
+    PointAt(EmptyCell(60), Qt::LeftButton);
+    Take("6-pressing");
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(&Board(), &leave);
     Place(kCellCount, 0);
     Take("7-full-board");
     Click(Button::CommandRestart);
@@ -82,6 +89,19 @@ class Photographer {
 
   // In the real window, so that focus and running command look as they do there.
   void Click(Button button) { window_.findChild<ControlPanel*>()->Of(button)->click(); }
+
+  // The mouse moves to the first mark that can be placed there, with that button down.
+  void PointAt(int cell, Qt::MouseButtons buttons = Qt::NoButton) {
+    int digit = 1;
+    while (!main_.form().Mark(cell, digit).visible) ++digit;
+    const QRectF place = Board().CellRect(cell);
+    const CellPosition at = MarkCentre(digit);
+    const QPointF point =
+        place.topLeft() + QPointF(at.x * place.width(), at.y * place.height()) / kCellUnits;
+    QMouseEvent move(QEvent::MouseMove, point, Board().mapToGlobal(point), Qt::NoButton, buttons,
+                     Qt::NoModifier);
+    QCoreApplication::sendEvent(&Board(), &move);
+  }
 
   void TakeVisualisedFill() {
     main_.Toggle(CheckBox::CheckVisualize);
