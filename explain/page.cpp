@@ -1,5 +1,6 @@
 #include "explain/page.h"
 
+#include "core/markup.h"
 #include "explain/page_parts.h"
 #include "paper/picture_file.h"
 
@@ -9,26 +10,6 @@ namespace {
 
 using paper::BoardPicture;
 using paper::Panel;
-
-std::string Escaped(std::string_view text) {
-  std::string escaped;
-  for (const char character : text) {
-    switch (character) {
-      case '&':
-        escaped += "&amp;";
-        break;
-      case '<':
-        escaped += "&lt;";
-        break;
-      case '"':
-        escaped += "&quot;";
-        break;
-      default:
-        escaped += character;
-    }
-  }
-  return escaped;
-}
 
 // With two decimals, a hundredth of a point: half as many bytes, and nobody sees it.
 std::string WithShortNumbers(std::string_view svg) {
@@ -92,7 +73,7 @@ class Page {
         "<meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; "
         "img-src data:; style-src 'unsafe-inline'; script-src 'unsafe-inline'\">\n"
         "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n<title>" +
-        Escaped(title) + "</title>\n<style>" + std::string(kStyle) +
+        EscapedForMarkup(title) + "</title>\n<style>" + std::string(kStyle) +
         "</style>\n</head>\n<body>\n<nav><button type=\"button\">Back</button>"
         "<button type=\"button\">Next</button><output></output>"
         "<span class=\"keys\">\u2190 \u2192 or space: step by step</span></nav>\n<main>\n";
@@ -105,10 +86,10 @@ class Page {
   void Add(const Panel& panel) {
     html_ += "<section class=\"step\">\n<figure class=\"now\">";
     Add(panel.picture, panel.heading);
-    html_ += "</figure>\n<div><h2>" + Escaped(panel.heading) + "</h2>\n";
+    html_ += "</figure>\n<div><h2>" + EscapedForMarkup(panel.heading) + "</h2>\n";
     for (std::size_t k = 0; k < panel.paragraphs.size(); ++k) {
       html_ += k == 0 ? "<p class=\"says\">" : "<p>";
-      html_ += Escaped(panel.paragraphs[k]) + "</p>\n";
+      html_ += EscapedForMarkup(panel.paragraphs[k]) + "</p>\n";
     }
     html_ += "</div>\n";
     if (panel.after) AddAfter(*panel.after);
@@ -129,7 +110,7 @@ class Page {
           return true;
         });
     if (!written) fault_ = written.error();
-    html_ += "<img alt=\"" + Escaped(description) + "\" src=\"" + DataLink(svg) + "\">";
+    html_ += "<img alt=\"" + EscapedForMarkup(description) + "\" src=\"" + DataLink(svg) + "\">";
   }
 
   std::string html_;

@@ -1,5 +1,8 @@
 #include "formats/ksudoku.h"
 
+#include <algorithm>
+
+#include "core/markup.h"
 #include "formats/link.h"
 
 namespace tessel::formats {
@@ -11,25 +14,11 @@ constexpr int Transposed(int cell) {
   return CellAt(ColumnOf(cell), RowOf(cell));
 }
 
-std::string Escaped(const std::string& text) {
-  std::string escaped;
-  for (const char character : text) {
-    switch (character) {
-      case '&':
-        escaped += "&amp;";
-        break;
-      case '<':
-        escaped += "&lt;";
-        break;
-      case '"':
-        escaped += "&quot;";
-        break;
-      default:
-        // XML has no word for most control characters.
-        escaped += static_cast<unsigned char>(character) < ' ' ? ' ' : character;
-    }
-  }
-  return escaped;
+// XML has no word for most control characters.
+std::string WithoutControls(std::string text) {
+  const auto isControl = [](char character) { return static_cast<unsigned char>(character) < ' '; };
+  std::ranges::replace_if(text, isControl, ' ');
+  return text;
 }
 
 std::string Clique(const House& cage) {
@@ -54,7 +43,7 @@ Writing WriteKSudoku(const DescribedPuzzle& described) {
   for (const House& cage : puzzle.layout.HousesOf(HouseKind::kCage)) cliques += Clique(cage);
   return "<!DOCTYPE ksudoku><ksudoku><game had-help=\"0\" msecs-elapsed=\"0\"><puzzle>\n"
          "<graph order=\"9\" type=\"custom\" specific-type=\"Jigsaw\" name=\"" +
-         Escaped(TitleOf(described)) +
+         EscapedForMarkup(WithoutControls(TitleOf(described))) +
          "\" sizeX=\"9\" sizeY=\"9\" sizeZ=\"1\">\n"
          "<sudokugroups at=\"0\" withblocks=\"0\"/>" +
          cliques + "\n</graph><values>" + Values(puzzle.givens) +
