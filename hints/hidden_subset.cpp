@@ -21,15 +21,9 @@ std::optional<Positions> UsefulPositions(const HouseContents& in, Mask digits, i
 }
 
 Hint HintAt(const House& house, const HouseContents& in, Positions positions, Mask digits) {
-  Hint hint{.code = CodeFor(HintCode::kHiddenSubsetRow, house.kind),
-            .houses = {house},
-            .cells = CellsAt(house, positions),
-            .digits = digits};
-  for (int k = 0; k < kSide; ++k) {
-    const Mask lost = Without(in.candidates[k], digits);
-    if (lost != 0 && HasPosition(positions, k)) hint.eliminations.push_back({house.cells[k], lost});
-  }
-  return hint;
+  return SubsetHint(HintCode::kHiddenSubsetRow, house, positions, digits, [&](int k) {
+    return HasPosition(positions, k) ? Without(in.candidates[k], digits) : Mask{0};
+  });
 }
 
 template <int size>

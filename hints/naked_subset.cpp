@@ -45,16 +45,9 @@ std::optional<Mask> UsefulDigits(const HouseContents& in, Positions positions, i
 // Every other cell of the house loses all the subset's digits that it holds, not just the common
 // ones.
 Hint HintAt(const House& house, const HouseContents& in, Positions positions, Mask digits) {
-  Hint hint{.code = CodeFor(HintCode::kNakedSubsetRow, house.kind),
-            .houses = {house},
-            .cells = CellsAt(house, positions),
-            .digits = digits};
-  for (int k = 0; k < kSide; ++k) {
-    const auto lost = static_cast<Mask>(in.candidates[k] & digits);
-    if (lost != 0 && !HasPosition(positions, k))
-      hint.eliminations.push_back({house.cells[k], lost});
-  }
-  return hint;
+  return SubsetHint(HintCode::kNakedSubsetRow, house, positions, digits, [&](int k) {
+    return HasPosition(positions, k) ? Mask{0} : static_cast<Mask>(in.candidates[k] & digits);
+  });
 }
 
 template <int size>
