@@ -7,11 +7,6 @@ namespace {
 using oracle::IndependentSolver;
 using oracle::IsFilling;
 
-#ifdef __SANITIZE_ADDRESS__
-constexpr std::uint64_t kLayouts = 10;
-#else
-constexpr std::uint64_t kLayouts = 60;
-#endif
 constexpr int kQuestionsALayout = 10;
 
 class Completions : public OnEveryPath {
@@ -87,7 +82,7 @@ TEST_P(Completions, SparseGivensOfAnUnfillableLayoutAreRefused) {
 TEST_P(Completions, OfSampledGivensAreTheOtherSolvers) {
   int asked = 0;
   int several = 0;
-  for (std::uint64_t seed = 0; seed < kLayouts; ++seed) {
+  for (std::uint64_t seed = 0; seed < kSampleLayouts; ++seed) {
     RandomStream random(seed);
     const Layout layout = Torn(SampleLayout(seed), static_cast<int>(seed % 4), random);
     const auto solution = oracle::AnySolution(OracleLayoutOf(layout), seed);
@@ -118,7 +113,7 @@ TEST_P(Completions, OfSampledGivensAreTheOtherSolvers) {
       several += found.size() > 1 ? 1 : 0;
     }
   }
-  EXPECT_GT(asked, 7 * static_cast<int>(kLayouts));
+  EXPECT_GT(asked, 7 * static_cast<int>(kSampleLayouts));
   EXPECT_GT(several, asked / 10);
 }
 

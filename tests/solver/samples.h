@@ -27,6 +27,13 @@ inline oracle::Layout OracleLayoutOf(const Layout& layout) {
   return oracle::LayoutOf(OracleGridOf(layout.Cages()));
 }
 
+// How many of them questions about any layout are asked of.
+#ifdef __SANITIZE_ADDRESS__
+inline constexpr std::uint64_t kSampleLayouts = 10;
+#else
+inline constexpr std::uint64_t kSampleLayouts = 60;
+#endif
+
 // Random, rotational and regular ones in turn.
 inline Layout SampleLayout(std::uint64_t seed) {
   using Mode = oracle::LiteralLayout::Mode;
