@@ -1,6 +1,8 @@
 #include "search/conceal.h"
 
+#include <algorithm>
 #include <array>
+#include <cassert>
 
 namespace tessel {
 
@@ -101,6 +103,7 @@ class Concealment {
 
 std::optional<Grid> Conceal(ExactCoverSearch& search, const Grid& solution, ConcealMode mode,
                             RandomSource& random, Progress& progress) {
+  assert(std::ranges::all_of(solution, [](int digit) { return digit >= 1 && digit <= kSide; }));
   Concealment concealment(solution, random, mode == ConcealMode::kPairs ? kPairs : kSingles);
   while (!concealment.Complete() && !progress.StopRequested()) {
     const std::optional<int> cell = concealment.Choose();

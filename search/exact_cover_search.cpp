@@ -63,9 +63,9 @@ void ExactCoverSearch::StartAt(int pos) {
 // ones.
 void ExactCoverSearch::WritePositionKeys(int lastUnfilled) {
   SearchLevel& level = Levels[Depth];
-  level.PositionKey.fill(0);
+  level.positionKey.fill(0);
   for (int i = 0; i <= lastUnfilled; ++i)
-    level.PositionKey[level.Order[i]] = PositionKeyAt(i, level.Order[i]);
+    level.positionKey[level.Order[i]] = PositionKeyAt(i, level.Order[i]);
 }
 
 }  // namespace tessel

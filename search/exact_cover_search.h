@@ -52,6 +52,7 @@ enum class SearchResult : std::uint8_t {
 
 class ExactCoverSearch {
  public:
+  // Builds the tables of the layout, which need not live on.
   explicit ExactCoverSearch(const Layout& layout);
 
   // Searches this layout from now on; what was found in another one is dropped.
@@ -83,6 +84,7 @@ class ExactCoverSearch {
   // alone, else one that shares the column in the column mask alone.
   void DLXRemoveCandidates(int Cell, int Candidate, int RemovePtr);
 
+  // The level that the search works on; where a Run has ended, what it has found.
   const SearchLevel& Top() const { return Levels[Depth]; }
   // Iterations of the search loop so far, of all searches.
   std::int64_t Iterations() const { return iterations_; }

@@ -13,6 +13,7 @@ struct PackedUndoMasks {
   std::int16_t first = 0;   // the row mask below the lower 7 bits of the column mask
   std::int16_t second = 0;  // the cage mask below the upper 2 bits of the column mask
 
+  // Packs three masks of 9 bits; the next three functions take them out again.
   static constexpr PackedUndoMasks Of(int row, int column, int cage) {
     return {static_cast<std::int16_t>(row | column << kSide),
             static_cast<std::int16_t>(cage | (column >> kColumnBits) << kSide)};

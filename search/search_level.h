@@ -37,7 +37,7 @@ struct SearchLevel {
 
   // Order, turned around for the passes over the board: PositionKeyAt of each unfilled cell, 0 in
   // the lanes of filled cells and beyond the board.
-  Lanes PositionKey{};
+  Lanes positionKey{};
 };
 static_assert(std::is_trivially_copyable_v<SearchLevel>);
 static_assert(sizeof(SearchLevel) == 1792, "docs/search.md reckons with this size");

@@ -25,7 +25,7 @@ void SwapPositions(SearchLevel& level, int a, int b) {
   const std::int16_t cell = level.Order[b];
   level.Order[b] = level.Order[a];
   level.Order[a] = cell;
-  level.PositionKey[cell] = PositionKeyAt(a, cell);
+  level.positionKey[cell] = PositionKeyAt(a, cell);
 }
 
 }  // namespace

@@ -25,7 +25,7 @@ TESSEL_WIDE_VECTORS BoardStatus PropagateSingles(const SearchLevel& level, const
   scratch.Order = level.Order;
   scratch.count = 0;
   const Lanes* oldCandidates = &level.Candidates;
-  const Lanes* oldKeys = &level.PositionKey;
+  const Lanes* oldKeys = &level.positionKey;
   do {
     const int single = status.SingleCell();
     const int position = status.SinglePosition();
@@ -45,12 +45,12 @@ TESSEL_WIDE_VECTORS BoardStatus PropagateSingles(const SearchLevel& level, const
       const auto left = static_cast<Mask>(Without((*oldCandidates)[i], peers[i] & bit) | placed[i]);
       const auto key = static_cast<std::int16_t>((*oldKeys)[i] + (ownLast[i] & nearer));
       scratch.Candidates[i] = left;
-      scratch.PositionKey[i] = key;
+      scratch.positionKey[i] = key;
       priority = std::max(priority, PriorityOf(left, key));
     }
     status = BoardStatus(priority);
     oldCandidates = &scratch.Candidates;
-    oldKeys = &scratch.PositionKey;
+    oldKeys = &scratch.positionKey;
     --lastUnfilled;
   } while (status.Single() && scratch.count < maxSingles);
   return status;
@@ -60,11 +60,11 @@ TESSEL_WIDE_VECTORS void CommitSingles(const SinglesScratch& scratch, int lastUn
                                        SearchLevel& level) {
   TESSEL_SAME_LANES
   for (int i = 0; i < kLaneCount; ++i) {
-    const std::int16_t wasFilled = AllOnesIfZero(level.PositionKey[i]);
+    const std::int16_t wasFilled = AllOnesIfZero(level.positionKey[i]);
     const std::int16_t single = AllOnesIfNegative(scratch.Candidates[i]);
     level.Candidates[i] = static_cast<Mask>((level.Candidates[i] & wasFilled) |
                                             (scratch.Candidates[i] & ~(wasFilled | single)));
-    level.PositionKey[i] = Without(scratch.PositionKey[i], single);
+    level.positionKey[i] = Without(scratch.positionKey[i], single);
   }
   level.Order = scratch.Order;
   for (int n = 0; n < scratch.count; ++n) {

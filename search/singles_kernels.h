@@ -9,12 +9,12 @@ namespace tessel {
 // Scratch copy of what propagation changes, so that a contradiction costs no level. A member of the
 // search, not a local, to save clearing 550 bytes a call. Until kernels::CommitSingles, three
 // things differ from a SearchLevel: a placed single holds its digit's bit and two high bits (its
-// lane is negative); it still has its PositionKey; the lanes of cells filled before hold leftovers
+// lane is negative); it still has its positionKey; the lanes of cells filled before hold leftovers
 // that must not be read.
 struct SinglesScratch {
   CellOrder Order{};
   Lanes Candidates{};
-  Lanes PositionKey{};
+  Lanes positionKey{};
   int count = 0;  // of the singles
 };
 

@@ -43,7 +43,7 @@ constexpr std::int16_t AllOnesIfLogged(const UndoMaskLanes& names, PackedUndoMas
   PackedUndoMasks masks;
   std::int16_t priority = 0;
   for (int cell = 0; cell < kLaneCount; ++cell) {
-    const std::int16_t key = level.PositionKey[cell];
+    const std::int16_t key = level.positionKey[cell];
     const auto candidates =
         static_cast<Mask>(level.Candidates[cell] | (oldBit & AllOnesIfLogged(names, lost, cell)));
     const auto removed = static_cast<Mask>(candidates & peers[cell] & bit & ~AllOnesIfZero(key));
@@ -65,14 +65,14 @@ constexpr std::int16_t AllOnesIfLogged(const UndoMaskLanes& names, PackedUndoMas
 TESSEL_WIDE_VECTORS BoardStatus StatusOf(const SearchLevel& level) {
   std::int16_t priority = 0;
   for (int cell = 0; cell < kLaneCount; ++cell) {
-    priority = std::max(priority, PriorityOf(level.Candidates[cell], level.PositionKey[cell]));
+    priority = std::max(priority, PriorityOf(level.Candidates[cell], level.positionKey[cell]));
   }
   return BoardStatus(priority);
 }
 
 TESSEL_WIDE_VECTORS BoardStatus PlaceTrial(SearchLevel& level, const PeerTables& tables, int placed,
                                            Mask bit, int entry) {
-  SetLane(level.PositionKey, placed, 0);
+  SetLane(level.positionKey, placed, 0);
   return Place(level, tables, placed, 0, PackedUndoMasks{}, bit, entry);
 }
 
@@ -83,7 +83,7 @@ TESSEL_WIDE_VECTORS BoardStatus ReplaceTrial(SearchLevel& level, const PeerTable
 
 TESSEL_WIDE_VECTORS void UndoTrial(SearchLevel& level, const PeerTables& tables, int placed,
                                    std::int16_t positionKey, Mask bit, int entry) {
-  SetLane(level.PositionKey, placed, positionKey);
+  SetLane(level.positionKey, placed, positionKey);
   const UndoMaskLanes& names = tables.UndoMasks(placed);
   const PackedUndoMasks lost = UndoEntry(level, entry);
   for (int cell = 0; cell < kLaneCount; ++cell) {

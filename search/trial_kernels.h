@@ -11,6 +11,7 @@ class BoardStatus {
  public:
   explicit BoardStatus(std::int16_t priority) : priority_(priority) {}
 
+  // Of a level whose first single is `cell`, at that position in Order; both 0..80.
   static BoardStatus OfSingle(int position, int cell) {
     return BoardStatus(PositionKeyAt(position, cell) & ~kUnfilledMark);
   }
@@ -29,9 +30,10 @@ class BoardStatus {
 
 namespace kernels {
 
+// A look at every unfilled cell.
 BoardStatus StatusOf(const SearchLevel& level);
 
-// Places the digit of `bit` in `cell` as a trial: clears the cell's PositionKey, removes `bit` from
+// Places the digit of `bit` in `cell` as a trial: clears the cell's positionKey, removes `bit` from
 // its unfilled peers and records those peers in undo entry `entry`, 1..80. The cell's own
 // candidates stay. Returns the status of the level afterwards.
 BoardStatus PlaceTrial(SearchLevel& level, const PeerTables& tables, int cell, Mask bit, int entry);

@@ -34,14 +34,14 @@ RandomLevel DrawLevel(RandomSource& random) {
       drawn.level.Candidates[cell] = 0b11;
     }
     const bool unfilled = position <= drawn.lastUnfilled;
-    if (unfilled) drawn.level.PositionKey[cell] = PositionKeyAt(position, cell);
+    if (unfilled) drawn.level.positionKey[cell] = PositionKeyAt(position, cell);
     if (!unfilled) drawn.level.Digit[cell] = static_cast<std::int16_t>(1 + DrawIndex(random, 9));
   }
   return drawn;
 }
 
 bool Unfilled(const SearchLevel& level, int cell) {
-  return level.PositionKey[cell] != 0;
+  return level.positionKey[cell] != 0;
 }
 
 // The first cell in Order without a candidate, else the first with one.
@@ -62,7 +62,7 @@ int PlaceIn(const HouseCells& house, int cell) {
 }
 
 void TwinOfPlaceTrial(SearchLevel& level, const Layout& layout, int placed, Mask bit, int entry) {
-  level.PositionKey[placed] = 0;
+  level.positionKey[placed] = 0;
   int rowMask = 0;
   int columnMask = 0;
   int cageMask = 0;
@@ -84,7 +84,7 @@ void TwinOfPlaceTrial(SearchLevel& level, const Layout& layout, int placed, Mask
 
 void TwinOfUndoTrial(SearchLevel& level, const Layout& layout, int placed, std::int16_t key,
                      Mask bit, int entry) {
-  level.PositionKey[placed] = key;
+  level.positionKey[placed] = key;
   for (int k = 0; k < kSide; ++k) {
     const auto giveBack = [&](Mask lost, int cell) {
       if ((lost >> k & 1) != 0) level.Candidates[cell] |= bit;
@@ -101,8 +101,8 @@ void TwinOfOneSingle(SearchLevel& level, const Layout& layout, int position, int
   const Mask bit = level.Candidates[cell];
   const int last = level.Order[lastUnfilled];
   std::swap(level.Order[position], level.Order[lastUnfilled]);
-  level.PositionKey[last] = PositionKeyAt(position, last);
-  level.PositionKey[cell] = 0;
+  level.positionKey[last] = PositionKeyAt(position, last);
+  level.positionKey[cell] = 0;
   level.Candidates[cell] = 0;
   level.Digit[cell] = static_cast<std::int16_t>(LowestDigitOf(bit));
   ForEach(layout.PeersOf(cell), [&](int peer) {
@@ -114,7 +114,7 @@ void ExpectSame(const SearchLevel& level, const SearchLevel& twin) {
   EXPECT_EQ(level.Digit, twin.Digit);
   EXPECT_EQ(level.Order, twin.Order);
   EXPECT_EQ(level.Candidates, twin.Candidates);
-  EXPECT_EQ(level.PositionKey, twin.PositionKey);
+  EXPECT_EQ(level.positionKey, twin.positionKey);
   EXPECT_EQ(level.UndoRowMask, twin.UndoRowMask);
   EXPECT_EQ(level.UndoColumnMask, twin.UndoColumnMask);
   EXPECT_EQ(level.UndoCageMask, twin.UndoCageMask);
@@ -184,7 +184,7 @@ TEST_F(LaneKernels, UndoTrialGivesTheDigitBackToThoseThatLostIt) {
   OnRandomLevels([&](const RandomLevel& drawn) {
     SearchLevel level = drawn.level;
     const int cell = DrawUnfilled(drawn);
-    const std::int16_t key = level.PositionKey[cell];
+    const std::int16_t key = level.positionKey[cell];
     const Mask bit = DrawBit();
     const int entry = DrawEntry();
     kernels::PlaceTrial(level, tables, cell, bit, entry);
@@ -193,7 +193,7 @@ TEST_F(LaneKernels, UndoTrialGivesTheDigitBackToThoseThatLostIt) {
     TwinOfUndoTrial(twin, layout, cell, key, bit, entry);
     ExpectSame(level, twin);
     EXPECT_EQ(level.Candidates, drawn.level.Candidates);
-    EXPECT_EQ(level.PositionKey, drawn.level.PositionKey);
+    EXPECT_EQ(level.positionKey, drawn.level.positionKey);
   });
 }
 
@@ -201,7 +201,7 @@ TEST_F(LaneKernels, ReplaceTrialIsUndoAndPlaceInOne) {
   OnRandomLevels([&](const RandomLevel& drawn) {
     SearchLevel level = drawn.level;
     const int cell = DrawUnfilled(drawn);
-    const std::int16_t key = level.PositionKey[cell];
+    const std::int16_t key = level.positionKey[cell];
     const Mask oldBit = DrawBit();
     const Mask bit = DrawBit();
     const int entry = DrawEntry();
