@@ -17,12 +17,13 @@ using CageNumbers = PerCell<std::uint8_t>;  // cage 1..9 of each cell
 using CellDigits = PerCell<std::int16_t>;   // digit 1..9, or 0 for none
 using MaskBoard = PerCell<Mask>;            // a candidate mask for each cell
 
+// The same 81 numbers, widened.
 constexpr CellDigits DigitsOf(const Grid& grid) {
   CellDigits digits{};
   for (int cell = 0; cell < kCellCount; ++cell) digits[cell] = grid[cell];
   return digits;
 }
-// `digits` must be 0..9.
+// The same 81 numbers, narrowed: `digits` must be 0..9.
 constexpr Grid GridOf(const CellDigits& digits) {
   Grid grid{};
   for (int cell = 0; cell < kCellCount; ++cell) {

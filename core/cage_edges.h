@@ -15,7 +15,7 @@ enum class CellSide : std::uint8_t { kLeft, kTop, kRight, kBottom };
 inline constexpr std::array kCellSides{CellSide::kLeft, CellSide::kTop, CellSide::kRight,
                                        CellSide::kBottom};
 
-// The cell that lies beyond that side; none at the edge of the board.
+// The cell that lies beyond that side of `cell`, 0..80; none at the edge of the board.
 constexpr std::optional<int> NeighbourBeyond(int cell, CellSide side) {
   const auto step = [cell](bool inside, int by) {
     return inside ? std::optional(cell + by) : std::nullopt;
@@ -41,6 +41,7 @@ constexpr bool IsWall(int cell, CellSide side, const Together& together) {
   return !neighbour || !together(cell, *neighbour);
 }
 
+// Whether the cell and its neighbour on that side lie in different cages, or the board ends there.
 inline bool IsCageWall(const Layout& layout, int cell, CellSide side) {
   return IsWall(cell, side, [&](int a, int b) { return layout.CageOf(a) == layout.CageOf(b); });
 }

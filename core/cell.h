@@ -2,6 +2,7 @@
 #pragma once
 
 #include <bit>
+#include <cassert>
 #include <cstdint>
 
 namespace tessel {
@@ -10,6 +11,7 @@ inline constexpr int kSide = 9;        // rows, columns, cages, and cells in eac
 inline constexpr int kCellCount = 81;  // cells are numbered 0..80, row by row
 inline constexpr int kCentreCell = 40;
 
+// The row and column, 0..8, of a cell 0..80, and the cell where they meet.
 constexpr int RowOf(int cell) {
   return cell / kSide;
 }
@@ -28,19 +30,23 @@ constexpr int HalfTurnOf(int cell) {
 using Mask = std::int16_t;
 inline constexpr Mask kAllCandidates = 511;
 
+// `digit`: 1..9.
 constexpr Mask BitOf(int digit) {
   return static_cast<Mask>(1 << (digit - 1));
 }
 constexpr bool Holds(Mask mask, int digit) {
   return (mask & BitOf(digit)) != 0;
 }
+// 0..9.
 constexpr int CandidateCount(Mask mask) {
   return std::popcount(static_cast<std::uint16_t>(mask));
 }
-// The mask must not be empty.
+// A digit 1..9; the mask must not be empty.
 constexpr int LowestDigitOf(Mask mask) {
+  assert(mask != 0);
   return std::countr_zero(static_cast<unsigned>(mask)) + 1;
 }
+// The digits of `mask` that `removed` does not hold.
 constexpr Mask Without(Mask mask, Mask removed) {
   return static_cast<Mask>(mask & ~removed);
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <bit>
+#include <cassert>
 #include <cstdint>
 
 #include "core/cell.h"
@@ -16,6 +17,7 @@ struct CellSet {
 
   static constexpr int kUpperCells = 45;
 
+  // The cell 0..80 alone.
   static constexpr CellSet Of(int cell) {
     return cell < kUpperCells ? CellSet{std::uint64_t{1} << cell, 0}
                               : CellSet{0, std::uint64_t{1} << (cell - kUpperCells)};
@@ -26,6 +28,7 @@ struct CellSet {
   constexpr int Count() const { return std::popcount(upper) + std::popcount(lower); }
   // The lowest-numbered cell; the set must not be empty.
   constexpr int First() const {
+    assert(!Empty());
     return upper != 0 ? std::countr_zero(upper) : kUpperCells + std::countr_zero(lower);
   }
 

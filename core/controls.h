@@ -97,6 +97,7 @@ inline constexpr std::array<CheckBoxTraits, 5> kCheckBoxTable{{
 inline constexpr std::size_t kButtonCount = kButtonTable.size();
 inline constexpr std::size_t kCheckBoxCount = kCheckBoxTable.size();
 
+// The place of a control in its table, from 0.
 constexpr std::size_t IndexOf(Button button) {
   return static_cast<std::size_t>(button);
 }
@@ -104,6 +105,7 @@ constexpr std::size_t IndexOf(CheckBox box) {
   return static_cast<std::size_t>(box);
 }
 
+// The row of a control.
 constexpr const ButtonTraits& TraitsOf(Button button) {
   return kButtonTable[IndexOf(button)];
 }
@@ -121,6 +123,7 @@ static_assert([] {
   return true;
 }());
 
+// Of a Button or a CheckBox.
 template <typename Control>
 constexpr bool IsInSolveFrame(Control control) {
   return TraitsOf(control).group == ControlGroup::kSolving;

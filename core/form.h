@@ -36,7 +36,8 @@ struct DisplayedCell {
   Rgb PaintedBackground() const { return opaque ? background : kBoardColour; }
 };
 
-// Setters drop writes that change nothing and report the others to View::FormChanged.
+// Setters drop writes that change nothing and report the others to View::FormChanged. Cells are
+// 0..80, rows and columns 0..8, and digits 1..9 but for the text of a cell, where 0 means none.
 class Form {
  public:
   explicit Form(View& view);

@@ -1,6 +1,7 @@
 // A layout: nine cages of nine cells, with all that follows from them. Made whole or not at all.
 #pragma once
 
+#include <cassert>
 #include <span>
 #include <string>
 #include <tl/expected.hpp>
@@ -31,10 +32,14 @@ class Layout {
   // The nine 3x3 boxes, numbered row by row.
   static const Layout& Regular();
 
+  // `cell`: 0..80.
   int CageOf(int cell) const { return cages_[cell]; }  // 1..9
   const CageNumbers& Cages() const { return cages_; }
   // The cells of `cage` 1..9, in increasing order.
-  const HouseCells& CellsOf(int cage) const { return houses_[kFirstCage + cage - 1].cells; }
+  const HouseCells& CellsOf(int cage) const {
+    assert(cage >= 1 && cage <= kSide);
+    return houses_[kFirstCage + cage - 1].cells;
+  }
 
   const Houses& AllHouses() const { return houses_; }
   // The nine rows, columns or cages.

@@ -1,6 +1,7 @@
 // The port to chance, and the one generator behind it.
 #pragma once
 
+#include <cassert>
 #include <cstdint>
 
 namespace tessel {
@@ -9,14 +10,16 @@ class RandomSource {
  public:
   virtual ~RandomSource() = default;
 
+  // The same seed gives the same numbers again.
   virtual void Seed(std::uint64_t seed) = 0;
   // Uniform in [0, 1), single precision.
   virtual float Next() = 0;
 };
 
-// Uniform in 0..n-1: the whole part of r * n. The product is taken in double precision, where it
-// stays below n for every r below 1.
+// Uniform in 0..n-1, n at least 1: the whole part of r * n. The product is taken in double
+// precision, where it stays below n for every r below 1.
 inline int DrawIndex(RandomSource& random, int n) {
+  assert(n > 0);
   return static_cast<int>(static_cast<double>(random.Next()) * n);
 }
 

@@ -2,6 +2,7 @@
 // purpose alone, so that work can be done in any order, by any number of threads.
 #pragma once
 
+#include <cassert>
 #include <cstdint>
 
 namespace tessel {
@@ -18,6 +19,7 @@ class RandomStream {
   // Uniform in 0..n-1, n from 1 to 2^32: the upper half of a 64-bit product, where the few draws
   // that would prefer some results are drawn again.
   std::uint32_t Below(std::uint64_t n) {
+    assert(n > 0 && n <= std::uint64_t{1} << 32);
     std::uint64_t product = (Next() >> 32) * n;
     if (static_cast<std::uint32_t>(product) < n) {
       const std::uint64_t unfair = ((std::uint64_t{1} << 32) - n) % n;

@@ -27,6 +27,7 @@ inline constexpr std::array<std::string_view, 10> kSoundFiles{
 
 class Sounds {
  public:
+  // Refers to both, which must live as long.
   Sounds(GameState& state, SoundPlayer& player) : state_(state), player_(player) {}
 
   // Loads the ten files from ProgramPath when the player is ready; silent otherwise.

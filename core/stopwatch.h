@@ -9,6 +9,7 @@ namespace tessel {
 
 class sTime {
  public:
+  // Refers to the clock, which must live as long.
   explicit sTime(Clock& clock) : clock_(clock) {}
 
   // Chooses the time source: the performance counter if it ticks at 10 MHz or more, else the tick

@@ -23,7 +23,7 @@ inline constexpr std::array kSymmetries{
     Symmetry::kNone,      Symmetry::kQuarterTurn, Symmetry::kHalfTurn, Symmetry::kThreeQuarterTurn,
     Symmetry::kLeftRight, Symmetry::kUpDown,      Symmetry::kDiagonal, Symmetry::kAntidiagonal};
 
-// The cell whose content the symmetry brings to the place of `cell`.
+// The cell whose content the symmetry brings to the place of `cell`; both 0..80.
 constexpr int SourceOf(Symmetry symmetry, int cell) {
   constexpr int last = kSide - 1;
   const int row = RowOf(cell);
@@ -58,6 +58,7 @@ struct CanonicalForm {
 
   friend auto operator<=>(const CanonicalForm&, const CanonicalForm&) = default;
 };
+// `givens`: digits 1..9, and 0 for empty cells.
 CanonicalForm CanonicalFormOf(const Layout& layout, const Grid& givens);
 
 // The symmetries that the picture of the puzzle has: walls, and places of givens whatever their

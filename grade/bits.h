@@ -3,6 +3,7 @@
 
 #include <array>
 #include <bit>
+#include <cassert>
 #include <cstddef>
 #include <cstdint>
 
@@ -10,6 +11,7 @@
 
 namespace tessel::grade {
 
+// Whether exactly one bit is set.
 constexpr bool IsSingle(Mask mask) {
   return mask != 0 && (mask & (mask - 1)) == 0;
 }
@@ -27,8 +29,9 @@ constexpr int CountOf(Mask mask) {
   return kBitCounts[static_cast<std::size_t>(mask)];
 }
 
-// The mask must not be empty.
+// The number of the lowest set bit, from 0; the mask must not be empty.
 constexpr int LowestBit(Mask mask) {
+  assert(mask != 0);
   return std::countr_zero(static_cast<unsigned>(mask));
 }
 
@@ -37,6 +40,7 @@ template <typename Visit>
 constexpr void ForEachBit(std::uint32_t bits, const Visit& visit) {
   for (; bits != 0; bits &= bits - 1) visit(std::countr_zero(bits));
 }
+// The same of a mask.
 template <typename Visit>
 constexpr void ForEachBit(Mask mask, const Visit& visit) {
   ForEachBit(static_cast<std::uint32_t>(mask), visit);

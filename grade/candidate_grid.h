@@ -10,6 +10,7 @@ struct CandidateGrid {
   Grid digits{};           // 0 for an open cell
   MaskBoard candidates{};  // 0 for a filled cell
 
+  // Whether every cell is filled.
   bool Solved() const;
 
   friend bool operator==(const CandidateGrid&, const CandidateGrid&) = default;

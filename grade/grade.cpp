@@ -1,10 +1,12 @@
 #include "grade/grade.h"
 
 #include <algorithm>
+#include <cassert>
 
 namespace tessel::grade {
 
 void Grade::Count(StepKind kind, int count) {
+  assert(count > 0);
   level = std::max(level, FactsOf(kind).level);
   hardest = std::max(hardest.value_or(kind), kind);
   score += count * FactsOf(kind).weight;

@@ -19,6 +19,7 @@ struct Grade {
   int fewest = 0;                      // steps to choose from in any round; 0 without rounds
   std::optional<CandidateGrid> stuck;  // Level::kBeyond: where no kind of step is left
 
+  // The steps of that kind that were taken.
   int StepsOf(StepKind kind) const { return steps[static_cast<std::size_t>(kind)]; }
   // Adds a round of `count` steps, at least one.
   void Count(StepKind kind, int count);

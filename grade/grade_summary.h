@@ -21,6 +21,7 @@ struct GradeSummary {
   std::array<OfKind, kStepKindCount> kinds{};                    // in the order of StepKind
   std::map<int, std::array<std::uint64_t, kLevelCount>> scores;  // puzzles by score, then by level
 
+  // Counts one puzzle more.
   void Add(const Grade& grade);
 
   friend bool operator==(const GradeSummary&, const GradeSummary&) = default;

@@ -1,5 +1,6 @@
 // The Law of Leftovers.
 #include <bit>
+#include <cassert>
 
 #include "grade/step_searches.h"
 
@@ -76,6 +77,7 @@ void AddLeftoversOfBand(Steps& steps, const Layout& layout, const CandidateGrid&
 }  // namespace
 
 Steps LeftoverSteps(int lines, const Layout& layout, const CandidateGrid& position) {
+  assert(lines >= 1 && lines <= 4);
   Steps steps;
   const PlacesByDigit places = PlacesByDigitOf(position);
   for (const HouseKind kind : kLineKinds) {

@@ -22,6 +22,7 @@ struct Removals {
   CellSet cells;                          // that lose something
   std::array<Mask, kCellCount> digits{};  // what each cell loses
 
+  // `removed`: digits that can go from the cell.
   void Add(int cell, Mask removed) {
     cells = cells | CellSet::Of(cell);
     digits[cell] = static_cast<Mask>(digits[cell] | removed);
@@ -33,15 +34,19 @@ class QuickPosition {
   // `layout` must outlive the position.
   QuickPosition(const Layout& layout, const CandidateGrid& start);
 
+  // Whether every cell is filled.
   bool Solved() const { return open_ == 0; }
+  // The same position in plain form.
   CandidateGrid Value() const { return {board_, candidates_}; }
 
   // Write every single of the position and return how many there are.
   int WriteNakedSingles();
   int WriteHiddenSingles();
+  // Takes the removals out of the position.
   void Remove(const Removals& removals);
 
   const Layout& Shape() const { return layout_; }
+  // Of a cell 0..80; none in a filled one.
   Mask CandidatesAt(int cell) const { return candidates_[cell]; }
   // The cells that have the digit as a candidate. Digits are 0..8 from here on.
   CellSet CandidatesOf(int digit) const { return cells_[digit]; }

@@ -10,6 +10,8 @@ namespace tessel::grade {
 // `kind` is none of the singles.
 Removals RemovalsOf(StepKind kind, const QuickPosition& position);
 
+// Each in the file of its family. `lines`: 2..4. `size`: of sets 2..4, of hidden ones 2 or 3, of
+// fish 2 or 3.
 Removals QuickPointing(const QuickPosition& position);
 Removals QuickClaiming(const QuickPosition& position);
 Removals QuickLeftovers(int lines, const QuickPosition& position);

@@ -65,6 +65,7 @@ inline constexpr std::array kStepKinds{
 
 inline constexpr std::size_t kStepKindCount = kStepKinds.size();
 
+// The row of the kind.
 constexpr const StepKindFacts& FactsOf(StepKind kind) {
   return kStepKinds[static_cast<std::size_t>(kind)];
 }

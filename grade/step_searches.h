@@ -19,7 +19,9 @@ Steps SetSteps(StepKind kind, const Layout& layout, const CandidateGrid& positio
 // Removals of `digits` from those of `cells` that have some of them.
 std::vector<Removal> RemovalsOf(const CandidateGrid& position, CellSet cells, Mask digits);
 
+// The nine cells of the house.
 CellSet CellsOf(const House& house);
+// What a step says of the house: its kind and its number.
 HouseName HouseNameOf(const House& house);
 
 // The two directions in which lines run.

@@ -23,6 +23,7 @@ struct Way {
 // The givens must have exactly one solution.
 Way WayOf(const Layout& layout, const Grid& givens);
 
+// What GradeOf tells of the puzzle, counted from its way.
 Grade GradeOf(const Way& way);
 
 // The position with the step's digit written, or its candidates removed.

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <bit>
+#include <cassert>
 #include <cstddef>
 #include <optional>
 #include <span>
@@ -35,6 +36,7 @@ constexpr int SizeOf(Mask set) {
   return positions_detail::kSizes[set];
 }
 
+// `k`: 0..8.
 constexpr bool HasPosition(Positions positions, int k) {
   return (positions >> k & 1) != 0;
 }
@@ -48,12 +50,14 @@ constexpr std::optional<int> FirstOf(Positions positions, Predicate holds) {
   }
   return std::nullopt;
 }
+// Whether there is one.
 template <typename Predicate>
 constexpr bool AnyOf(Positions positions, Predicate holds) {
   return FirstOf(positions, holds).has_value();
 }
 // The set must not be empty.
 constexpr int LowestOf(Positions positions) {
+  assert(positions != 0);
   return std::countr_zero(static_cast<unsigned>(positions));
 }
 
@@ -66,6 +70,7 @@ inline Positions PositionsWith(const MaskBoard& masks, const HouseCells& cells, 
   return static_cast<Positions>(positions);
 }
 
+// The cells of the house at these positions.
 constexpr CellSet CellsAt(const House& house, Positions positions) {
   CellSet cells;
   for (auto rest = static_cast<unsigned>(positions); rest != 0; rest &= rest - 1) {
@@ -92,6 +97,7 @@ constexpr Positions Mirrored(int positions) {
   return static_cast<Positions>(mirrored);
 }
 
+// All choices of `size` of the nine positions, of which there are `count`.
 template <std::size_t count>
 constexpr std::array<Positions, count> Combinations(int size) {
   std::array<Positions, count> combinations{};

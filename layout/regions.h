@@ -10,6 +10,7 @@ struct Regions {
   CellSet second;  // another; empty when all cells are connected
   CellSet others;  // the cells of all others
 
+  // Every cell of every region.
   CellSet All() const { return first | second | others; }
   // The regions that are left without `cell`, which must be in one of them.
   Regions Without(int cell) const;

@@ -19,7 +19,7 @@ class Maker {
  public:
   explicit Maker(const Recipe& recipe);
 
-  // With its one solution. Made anew, not remembered.
+  // Puzzle `index` of `seed`, with its one solution. Made anew, not remembered.
   Puzzle Make(std::uint64_t seed, std::uint64_t index);
 
  private:

@@ -18,6 +18,7 @@ struct Wish {
   // Not met by puzzles that need more: their recipe asked for so many givens in vain.
   std::optional<int> mostGivens{};
 
+  // Whether the grade of a puzzle can decide; where it cannot, none need be made.
   bool LooksAtGrade() const;
   // Whether a puzzle passes that no grade is needed to refuse.
   bool AcceptsGivens(const Grid& givens) const;

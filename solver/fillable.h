@@ -13,8 +13,9 @@ Filling DecideFillable(const Layout& layout, Path path = BestPath());
 // The same by the SAT solver alone, which shares nothing with the search. Counts no nodes.
 Filling DecideBySat(const Layout& layout);
 
-// The completions of any givens of any layout, two at most; see Solver::Completions. The solver is
-// put to use for the layout.
+// The completions of any givens of any layout, `most` (1 or 2) of them at most, as
+// Solver::Completions gives them; ends for those that it does not end for, too. The solver is put
+// to use for the layout.
 std::vector<Grid> DecideCompletions(Solver& solver, const Layout& layout, const Grid& givens,
                                     int most = 2);
 

@@ -5,6 +5,7 @@
 
 namespace tessel::solver {
 
+// Gives the cell its digit of the solution again; it must have been taken out.
 template <typename Lanes>
 void PutBack(const Tables& tables, Givens& givens, int cell) {
   const int digit = givens.digitAt[cell];
@@ -12,6 +13,7 @@ void PutBack(const Tables& tables, Givens& givens, int cell) {
   Fill<Lanes>(tables, givens.level, cell, digit);
 }
 
+// Makes all 81 digits 1..9 of a complete solution the givens.
 template <typename Lanes>
 void Give(const Tables& tables, const std::uint8_t* solution, Givens& givens) {
   Clear<Lanes>(tables, givens.level);
@@ -34,6 +36,8 @@ Lanes PlacesWithout(const Tables& tables, const Givens& givens, int cell) {
   return places;
 }
 
+// Takes the given of a cell out: its digit may stand there again, and in the peers that no other
+// given of that digit forbids.
 template <typename Lanes>
 void Take(const Tables& tables, Givens& givens, int cell) {
   const int digit = givens.digitAt[cell];
@@ -48,6 +52,7 @@ void Take(const Tables& tables, Givens& givens, int cell) {
   }
 }
 
+// Whether the givens leave the cell a digit besides its own.
 inline bool AdmitsOtherDigit(const Givens& givens, int cell) {
   unsigned others = 0;
   for (int digit = 0; digit < kDigits; ++digit) {
@@ -74,6 +79,7 @@ bool HasOther(const Tables& tables, Workspace& work, const Givens& givens, int c
   return Search<Lanes>(tables, work, Request{}).Run().solutions != 0;
 }
 
+// The functions above, and the search, for one width of vectors.
 template <typename Lanes>
 constexpr Kernel KernelOf() {
   return {

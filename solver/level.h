@@ -7,6 +7,7 @@ namespace tessel::solver {
 
 inline constexpr int kDigits = kSide;
 
+// Makes the level an empty board.
 template <typename Lanes>
 void Clear(const Tables& tables, Level& level) {
   const Lanes everywhere = Lanes::Load(tables.everywhere);
@@ -17,6 +18,7 @@ void Clear(const Tables& tables, Level& level) {
   }
 }
 
+// Makes `to` what `from` is, register by register.
 template <typename Lanes>
 [[gnu::always_inline]] inline void CopyLevel(const Level& from, Level& to) {
   for (int digit = 0; digit < kDigits; ++digit) {

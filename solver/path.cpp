@@ -1,6 +1,7 @@
 #include "solver/path.h"
 
 #include <algorithm>
+#include <cassert>
 
 #include "solver/kernels.h"
 
@@ -30,6 +31,7 @@ Path BestPath() {
 }
 
 const Kernel& KernelOf(Path path) {
+  assert(IsAvailable(path));
   switch (path) {
 #ifdef TESSEL_WIDE_KERNELS
     case Path::kAvx2:

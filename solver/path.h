@@ -11,6 +11,7 @@ inline constexpr std::array kPaths{Path::kPlain, Path::kAvx2, Path::kAvx512};
 
 struct Kernel;
 
+// Whether this build has the kernel and this processor runs it.
 bool IsAvailable(Path path);
 // The widest that is available.
 Path BestPath();

@@ -6,7 +6,7 @@
 
 namespace tessel::solver {
 
-// Until there are none, or they lead to a contradiction.
+// Places singles until there are none, or they lead to a contradiction.
 template <typename Lanes>
 [[gnu::always_inline]] inline Standing PlaceSingles(const Tables& tables, Workspace& work,
                                                     Level& level) {
@@ -22,12 +22,14 @@ template <typename Lanes>
   }
 }
 
+// Takes out locked candidates; whether there were any.
 template <typename Lanes>
 [[gnu::always_inline]] inline bool RemoveLocked(const Tables& tables, Workspace& work,
                                                 Level& level) {
   return LockedCandidates<Lanes>(tables, level, work.unlocked).Remove();
 }
 
+// Both in turns until neither finds anything.
 template <typename Lanes>
 [[gnu::always_inline]] inline Standing Propagate(const Tables& tables, Workspace& work,
                                                  Level& level) {

@@ -15,6 +15,7 @@ struct Singles {
   std::uint32_t nakedRows = 0;    // the rows with naked singles
   Places naked;                   // the cells with one candidate
 
+  // Whether there is one to place, or a house without a place to find.
   bool Any() const { return digits != 0 || nakedRows != 0; }
 };
 

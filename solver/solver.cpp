@@ -1,6 +1,7 @@
 #include "solver/solver.h"
 
 #include <algorithm>
+#include <cassert>
 #include <limits>
 #include <numeric>
 
@@ -43,6 +44,10 @@ Grid GridOf(const std::uint8_t (&digits)[kCellCount]) {
   return grid;
 }
 
+[[maybe_unused]] bool IsGiven(const Givens& givens, int cell) {
+  return (givens.level.open.lane[RowOf(cell)] >> ColumnOf(cell) & 1U) == 0;
+}
+
 }  // namespace
 
 Solver::Solver(const Layout& layout, Path path)
@@ -77,6 +82,7 @@ bool Solver::Place(const Grid& givens) {
 // seed, in cells where others have failed, and the search may take longer each time.
 std::optional<std::vector<Grid>> Solver::CompletionsWithin(const Grid& givens, int most,
                                                            std::uint64_t mostNodes) {
+  assert(most == 1 || most == 2);
   std::vector<Grid> completions;
   RandomStream random(0);
   PerCell<std::uint64_t> failures;
@@ -140,15 +146,19 @@ bool CanBeFilled(const Layout& layout) {
 }
 
 void Solver::GiveAll(const Grid& solution) {
+  assert(std::ranges::all_of(solution, [](int digit) { return digit >= 1 && digit <= kSide; }));
   kernel_->give(*tables_, solution.data(), *givens_);
 }
 bool Solver::HasOtherCompletion(int cell) const {
+  assert(IsGiven(*givens_, cell));
   return kernel_->hasOther(*tables_, *work_, *givens_, cell);
 }
 void Solver::TakeOut(int cell) {
+  assert(IsGiven(*givens_, cell));
   kernel_->take(*tables_, *givens_, cell);
 }
 void Solver::PutBack(int cell) {
+  assert(!IsGiven(*givens_, cell));
   kernel_->putBack(*tables_, *givens_, cell);
 }
 

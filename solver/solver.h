@@ -40,8 +40,8 @@ class Solver {
   // The layout that all later questions are about.
   void Use(const Layout& layout);
 
-  // The completions of the givens, two at most. Any numbers are allowed: clashing givens and
-  // numbers above 9 have no completion.
+  // The completions of the givens, `most` of them at most: 1 or 2. Any numbers are allowed:
+  // clashing givens and numbers above 9 have no completion.
   std::vector<Grid> Completions(const Grid& givens, int most = 2);
   // The same, or nothing when that takes more than `mostNodes` nodes: a few givens of a layout
   // without a filling may. DecideCompletions ends for those, too.
@@ -60,6 +60,7 @@ class Solver {
   // Whether the givens without that of `cell` have a completion with another digit there. Where
   // they have none, taking it out leaves the solution as unique as it was.
   bool HasOtherCompletion(int cell) const;
+  // Takes the given of `cell` out; it must be one.
   void TakeOut(int cell);
   // Undoes TakeOut.
   void PutBack(int cell);

@@ -10,6 +10,7 @@ namespace tessel::solver {
 inline constexpr int kMaxIntersections = 96;
 
 struct Tables {
+  // Copies what it needs of the layout.
   explicit Tables(const Layout& layout);
 
   Places everywhere;                     // all cells
