@@ -38,6 +38,13 @@ go of the mouse button: drag off the board to take a click back. Tab moves betwe
 every button and box names its shortcut in its tooltip.</p>
 <p><b>Hint</b> names the next logical step and marks its rows and columns red, with an arrow. It never
 changes the board. <b>Restart</b> begins the puzzle again, <b>Solution</b> shows it solved.</p>
+<h2>Puzzles in and out</h2>
+<p><b>New</b> (Ctrl+N, Enter) makes a puzzle of the wished cages and level, ready to play. <b>Open</b>
+(Ctrl+O) and <b>Paste</b> (Ctrl+V) take text lines, links of SudokuPad and f-puzzles, game IDs of Solo
+and more, and <b>My Puzzles</b> (Ctrl+Shift+O) shows what Conceal has saved. A puzzle is opened only if
+it has exactly one solution; opening saves nothing. <b>Copy</b> (Ctrl+C), <b>Copy Link</b>, <b>Copy
+Picture</b>, <b>Export</b> (Ctrl+E) and <b>Print</b> (Ctrl+P) take the puzzle elsewhere, and <b>Explain
+Way</b> writes down how it is solved, step by step.</p>
 <h2>Rules that surprise</h2>
 <ul>
 <li>Only a digit whose mark is shown can be placed. Placing it removes it from the marks of its row,

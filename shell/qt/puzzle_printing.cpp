@@ -62,6 +62,7 @@ Outcome PrintWithDialog(QWidget* window, const std::vector<Puzzle>& puzzles) {
   QPrinter printer(QPrinter::HighResolution);
   QPrintDialog dialog(&printer, window);
   dialog.setObjectName("PrintDialog");
+  dialog.setWindowTitle("Tessel Sudoku - Print");
   dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
   if (dialog.exec() != QDialog::Accepted) return {};
   const auto options = BookletFor(puzzles.size(), PageOf(printer));

@@ -58,6 +58,15 @@ void User::Press(const char* control) const {
   program_.Window().Click(twin_.AreaOf(control).center());
 }
 
+void User::Choose(Entry entry) const {
+  const QRect place = twin_.EntryArea(entry);
+  const QRect area = place.translated(program_.Window().Area().topLeft());
+  const QImage before = TheDesktop().Screenshot(area);
+  program_.Window().Click(twin_.MenuTitlePlace(entry));
+  Eventually([&] { return TheDesktop().Screenshot(area) != before; });
+  program_.Window().Click(place.center());
+}
+
 void User::ClickMark(int cell, int digit, MouseKey button) {
   program_.Window().Click(twin_.MarkPlace(cell, digit), button);
   focusedCell_ = cell;

@@ -37,6 +37,9 @@ class User {
   void Press(const char* control) const;
   void ClickMark(int cell, int digit, MouseKey button);
 
+  // By mouse: opens the entry's menu and clicks on it.
+  void Choose(Entry entry) const;
+
   // By keyboard: the shortcut that the control's tooltip tells; a key on a cell, to which the arrow
   // keys lead from the one that has the focus.
   void PressShortcut(const char* control) const;

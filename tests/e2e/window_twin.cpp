@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QLabel>
+#include <QMenu>
 #include <QPainter>
 #include <QPushButton>
 #include <stdexcept>
@@ -50,6 +51,22 @@ QRect WindowTwin::AreaOf(const char* control) const {
 QPoint WindowTwin::MarkPlace(int cell, int digit) const {
   const QRect mark = BoardOf().Geometry().MarkRect(cell, digit);
   return AreaOfBoard().topLeft() + mark.center();
+}
+
+QPoint WindowTwin::MenuTitlePlace(Entry entry) const {
+  const auto& bar = Find<MenuBar>("MenuBar");
+  QAction* const title = bar.actions()[static_cast<int>(TraitsOf(entry).menu)];
+  return AreaOf("MenuBar").topLeft() + bar.actionGeometry(title).center();
+}
+
+QRect WindowTwin::EntryArea(Entry entry) const {
+  const auto& bar = Find<MenuBar>("MenuBar");
+  QAction* const title = bar.actions()[static_cast<int>(TraitsOf(entry).menu)];
+  const QPoint corner = AreaOf("MenuBar").topLeft() + bar.actionGeometry(title).bottomLeft();
+  QMenu& menu = *title->menu();
+  menu.ensurePolished();
+  menu.resize(menu.sizeHint());
+  return menu.actionGeometry(bar.Of(entry)).translated(corner + QPoint(0, 1));
 }
 
 QString WindowTwin::ShortcutOf(const char* control) const {

@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 
+#include "shell/qt/menu_bar.h"
 #include "shell/qt/tessel_window.h"
 #include "tests/e2e/expected_board.h"
 #include "tests/fakes/fake_clock.h"
@@ -27,6 +28,10 @@ class WindowTwin {
   QRect AreaOf(const char* control) const;
   QRect AreaOfBoard() const { return AreaOf("Board"); }
   QPoint MarkPlace(int cell, int digit) const;
+  // The title of the entry's menu in the bar; the entry in the open menu, which may lie outside of
+  // the window.
+  QPoint MenuTitlePlace(Entry entry) const;
+  QRect EntryArea(Entry entry) const;
   // The control's shortcut as its tooltip tells it, "Alt+S".
   QString ShortcutOf(const char* control) const;
 
