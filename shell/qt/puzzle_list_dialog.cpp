@@ -153,7 +153,7 @@ void PuzzleListDialog::List(formats::ByteSource source, const QString& where) {
     onWindow([this, trouble] {
       allRead_ = true;
       trouble_ = QString::fromStdString(trouble);
-      if (!list_->currentIndex().isValid()) list_->setCurrentIndex(model_->index(0));
+      if (!list_->selectionModel()->hasSelection()) list_->setCurrentIndex(model_->index(0));
       ShowCount();
     });
   };

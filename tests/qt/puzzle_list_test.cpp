@@ -130,6 +130,13 @@ TEST_F(MyPuzzles, OpensTheChosenOne) {
   EXPECT_EQ(std::filesystem::file_size(program.folder.PuzzleFile()), 3 * 243 + 8u);
 }
 
+TEST_F(MyPuzzles, BeginAtTheNewest) {
+  With(3, [](PuzzleListDialog& dialog, QListView& list) {
+    EXPECT_EQ(list.currentIndex().row(), 0);
+    EXPECT_EQ(dialog.Chosen().front(), PuzzleOf(Made(2)));
+  });
+}
+
 TEST_F(MyPuzzles, SeveralCanBePrintedAndExportedButNotOpened) {
   With(3, [](PuzzleListDialog& dialog, QListView& list) {
     list.selectAll();
