@@ -59,5 +59,17 @@ TEST(StepPicture, BandsTheLeftovers) {
   ForEach(picture.areas[0], [&](int cell) { EXPECT_EQ(picture.marks[cell] & digit, 0); });
 }
 
+// Two lines, and the two that cross them where the digit can stand.
+TEST(StepPicture, BandsTheLinesOfAFishAndThoseThatCross) {
+  const auto found = FindStep(StepKind::kXWing);
+  ASSERT_TRUE(found);
+  const BoardPicture picture = PictureBefore(found->explanation, found->k);
+  ASSERT_EQ(picture.areas.size(), 2U);
+  EXPECT_EQ(picture.areas[0].Count(), 2 * kSide);
+  EXPECT_EQ(picture.areas[1].Count(), 2 * kSide);
+  EXPECT_EQ(picture.areas[0] & picture.areas[1], found->Step().cells);
+  EXPECT_TRUE((CellsWith(picture.struck) - picture.areas[1]).Empty());
+}
+
 }  // namespace
 }  // namespace tessel::explain

@@ -75,6 +75,13 @@ TEST(Sdm, RefusesIrregularCages) {
   EXPECT_FALSE(WriteSdm(Example()));
 }
 
+TEST(TextLine, DigitsAreTheNumbersOfTheirCages) {
+  std::string cages(kExampleCages);
+  for (char& digit : cages) digit = static_cast<char>('1' + '9' - digit);
+  const Reading reading = FormatNamed("text")->read(std::string(kExampleGivens) + " " + cages);
+  EXPECT_EQ(reading.value().puzzle.layout.CageOf(0), 9);
+}
+
 // Three rows are cages, and boxes stand below: 24 edges without a wall, and two more.
 TEST(Solo, RefusesTwentySixEdgesWithoutAWall) {
   CageNumbers cages = Layout::Regular().Cages();
