@@ -1,9 +1,10 @@
 #include "shell/qt/puzzle_actions.h"
 
+#include <QApplication>
 #include <QClipboard>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QGuiApplication>
+#include <QLabel>
 #include <QMessageBox>
 
 #include "shell/puzzle_check.h"
@@ -26,6 +27,14 @@ std::string PathOf(const QString& path) {
   return QFile::encodeName(path).toStdString();
 }
 
+// The entry's key would take the text out of the hands of a player who has selected some.
+bool CopySelectedText() {
+  const auto* const label = qobject_cast<QLabel*>(QApplication::focusWidget());
+  if (label == nullptr || !label->hasSelectedText()) return false;
+  QApplication::clipboard()->setText(label->selectedText());
+  return true;
+}
+
 }  // namespace
 
 PuzzleActions::PuzzleActions(MenuBar& menu, QWidget& window, Tessel_Main& logic,
@@ -46,7 +55,9 @@ void PuzzleActions::ConnectOutgoing() {
   const auto connect = [this](Entry entry, std::function<void()> act) {
     menu_.Connect(entry, std::move(act), [this] { return logic_.HasPuzzleAtHand(); });
   };
-  connect(Entry::kCopy, [this] { CopyLine("text", "puzzle"); });
+  connect(Entry::kCopy, [this] {
+    if (!CopySelectedText()) CopyLine("text", "puzzle");
+  });
   connect(Entry::kCopyLink, [this] { CopyLine("sudokupad", "link"); });
   connect(Entry::kCopyPicture, [this] { CopyPicture(); });
   connect(Entry::kExport, [this] { Tell(ExportWithDialog(&window_, {AtHand()})); });
@@ -83,7 +94,7 @@ void PuzzleActions::OpenMyPuzzles() {
 }
 
 void PuzzleActions::Paste() {
-  const QString text = QGuiApplication::clipboard()->text();
+  const QString text = QApplication::clipboard()->text();
   if (text.trimmed().isEmpty()) return Refuse("The clipboard holds no text.");
   if (text.size() > kMaxPastedCharacters) return Refuse("The clipboard holds too much text.");
   TakeFrom([&] { return TextSource(text.toStdString()); }, "clipboard");
@@ -141,7 +152,7 @@ void PuzzleActions::ShowRefused(const Puzzle& puzzle, const std::string& verdict
 void PuzzleActions::CopyLine(const char* format, const QString& what) {
   const formats::Writing line = LineOf(AtHand(), format);
   if (!line) return Refuse(QString::fromStdString(line.error()));
-  QGuiApplication::clipboard()->setText(QString::fromStdString(*line));
+  QApplication::clipboard()->setText(QString::fromStdString(*line));
   Tell("Copied the " + what);
 }
 
@@ -154,7 +165,7 @@ void PuzzleActions::CopyPicture() {
     return true;
   });
   if (!drawn) return Refuse(QString::fromStdString(drawn.error()));
-  QGuiApplication::clipboard()->setImage(QImage::fromData(bytes, "PNG"));
+  QApplication::clipboard()->setImage(QImage::fromData(bytes, "PNG"));
   Tell("Copied the picture");
 }
 
