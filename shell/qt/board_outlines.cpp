@@ -59,4 +59,29 @@ void BoardOutlines::Hint(int cell) {
   Ring(place, reach - line, reach, Qt::white);
 }
 
+// A line of that width just inside `place`.
+void BoardOutlines::DrawRounded(const QRectF& place, double width, double radius) {
+  painter_.setRenderHint(QPainter::Antialiasing);
+  painter_.setPen(QPen(Qt::black, width));
+  painter_.setBrush(Qt::NoBrush);
+  const double half = width / 2;
+  painter_.drawRoundedRect(place.adjusted(half, half, -half, -half), radius, radius);
+  painter_.setRenderHint(QPainter::Antialiasing, false);
+}
+
+void BoardOutlines::RingDigit(int cell) {
+  const double air = geometry_.CellSide() / 12.0;
+  const QRectF place = QRectF(geometry_.CellRect(cell)).adjusted(air, air, -air, -air);
+  const double width = std::max(2.0 * geometry_.LineWidth(), geometry_.CellSide() / 30.0);
+  DrawRounded(place, width, place.width() / 2);
+}
+
+// As far from the ink as the mark's square allows, and of two lines where there is room.
+void BoardOutlines::RingMark(const QRect& ink) {
+  const double third = geometry_.CellSide() / 3.0;
+  const double air = std::max(2.0 * geometry_.LineWidth(), third / 6.5);
+  const double width = std::max(1.0 * geometry_.LineWidth(), third / 12);
+  DrawRounded(QRectF(ink).adjusted(-air, -air, air, air), width, third / 4);
+}
+
 }  // namespace tessel

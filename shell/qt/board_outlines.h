@@ -30,9 +30,13 @@ class BoardOutlines {
   void FocusBoard();
   // Where the row and the column of a hint cross.
   void Hint(int cell);
+  // Round the digit of a cell, and round a mark whose ink lies there.
+  void RingDigit(int cell);
+  void RingMark(const QRect& ink);
 
  private:
   void Ring(const QRegion& cells, int from, int to, const QColor& colour);
+  void DrawRounded(const QRectF& place, double width, double radius);
 
   QPainter& painter_;
   const BoardGeometry& geometry_;

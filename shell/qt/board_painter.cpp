@@ -100,6 +100,7 @@ void BoardPainter::Paint(QPainter& painter, const QRegion& region,
     if (touched(cell)) painter.fillRect(geometry_.CellRect(cell), Shown(ground));
   }
   PaintLines(painter, region, Line::kThin);
+  if (highlights.digit && IsBoardOpen(form_)) PaintSameDigits(painter, *highlights.digit);
   for (int cell = 0; cell < kCellCount; ++cell) {
     if (touched(cell)) PaintText(painter, cell);
   }
@@ -222,18 +223,32 @@ void BoardPainter::PaintHighlights(QPainter& painter, const BoardHighlights& hig
     if (highlights.focused) outlines.FocusBoard();
     return;
   }
-  if (highlights.active) PaintCrosshair(painter, *highlights.active);
+  if (highlights.active && !highlights.digit) PaintLinesOf(painter, *highlights.active);
+  if (highlights.active) PaintCageOf(painter, *highlights.active);
   if (const auto hinted = HintedCell()) outlines.Hint(*hinted);
   if (highlights.focused) outlines.Focus(*highlights.focused);
   if (highlights.target) PaintTarget(painter, *highlights.target);
 }
 
-void BoardPainter::PaintCrosshair(QPainter& painter, int active) const {
+void BoardPainter::PaintLinesOf(QPainter& painter, int active) const {
   BoardOutlines outlines(painter, geometry_);
   outlines.Surround(RegionOf([&](int cell) { return RowOf(cell) == RowOf(active); }));
   outlines.Surround(RegionOf([&](int cell) { return ColumnOf(cell) == ColumnOf(active); }));
+}
+
+void BoardPainter::PaintCageOf(QPainter& painter, int active) const {
+  BoardOutlines outlines(painter, geometry_);
   outlines.Surround(RegionOf([&](int cell) { return CageOf(cell) == CageOf(active); }));
   outlines.Point(active);
+}
+
+// Under the digits and marks, round which they run.
+void BoardPainter::PaintSameDigits(QPainter& painter, int digit) const {
+  BoardOutlines outlines(painter, geometry_);
+  for (int cell = 0; cell < kCellCount; ++cell) {
+    if (form_.Cell(cell).text == digit) outlines.RingDigit(cell);
+    if (IsMarkShown(form_, cell, digit)) outlines.RingMark(MarkInk(cell, digit));
+  }
 }
 
 // Over the borders: at the cell's edge the ring has no other room.

@@ -28,6 +28,8 @@ struct BoardHighlights {
   std::optional<int> active = {};         // outlined with its cage, row and column
   std::optional<int> focused = {};        // wears the keyboard's focus ring
   std::optional<TargetMark> target = {};  // wears a ring of its own
+  // Ringed wherever it stands, in place of the row and the column.
+  std::optional<int> digit = {};
 };
 
 // Whether the digit shown in the cell was put there by the player and not by the puzzle.
@@ -65,7 +67,9 @@ class BoardPainter {
   void PaintEdges(QPainter& painter, int cell, Line line) const;
   QRegion RegionOf(const auto& contains) const;
   void PaintHighlights(QPainter& painter, const BoardHighlights& highlights) const;
-  void PaintCrosshair(QPainter& painter, int active) const;
+  void PaintLinesOf(QPainter& painter, int active) const;
+  void PaintCageOf(QPainter& painter, int active) const;
+  void PaintSameDigits(QPainter& painter, int digit) const;
   void PaintTarget(QPainter& painter, const TargetMark& target) const;
   std::optional<int> HintedCell() const;
   // The cage that the cell is painted as, 0 for none.

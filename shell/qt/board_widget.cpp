@@ -123,11 +123,13 @@ void BoardWidget::paintEvent(QPaintEvent* event) {
   for (const QRect& part : event->region()) {
     region += QRectF(QPointF(part.topLeft()) * scale, QSizeF(part.size()) * scale).toAlignedRect();
   }
-  BoardHighlights highlights{.target = target_};
+  BoardHighlights highlights{.target = target_, .digit = RingedDigit()};
   if (hasFocus()) highlights.active = highlights.focused = focusedCell_;
   if (hoveredCell_) highlights.active = hoveredCell_;
   const BoardGeometry geometry = Geometry();
-  BoardPainter(*form_, *state_, geometry, font()).Paint(painter, region, highlights);
+  BoardPainter board(*form_, *state_, geometry, font());
+  board.SetCageColours(cageColours_);
+  board.Paint(painter, region, highlights);
 }
 
 void BoardWidget::mousePressEvent(QMouseEvent* event) {
@@ -159,7 +161,9 @@ void BoardWidget::leaveEvent(QEvent*) {
 }
 
 void BoardWidget::FollowMouse(const QMouseEvent& event) {
+  const auto ringed = RingedDigit();
   mouse_ = PointAt(event.position());
+  if (RingedDigit() != ringed) update();
   leftDown_ = event.buttons().testFlag(Qt::LeftButton);
   UpdateTarget();
 }
@@ -179,6 +183,31 @@ void BoardWidget::UpdateTarget() {
   }
   target_ = target;
   target_ ? setCursor(Qt::PointingHandCursor) : unsetCursor();
+}
+
+void BoardWidget::SetCageColours(const CageColours& colours) {
+  cageColours_ = colours;
+  update();
+}
+
+void BoardWidget::RingSameDigits(bool on) {
+  ringsSameDigits_ = on;
+  update();
+}
+
+void BoardWidget::RingDigit(std::optional<int> digit) {
+  chosenDigit_ = digit;
+  update();
+}
+
+std::optional<int> BoardWidget::RingedDigit() const {
+  if (chosenDigit_ || !ringsSameDigits_ || form_ == nullptr) return chosenDigit_;
+  const std::optional<int> cell = hoveredCell_ || !hasFocus() ? hoveredCell_ : focusedCell_;
+  if (!cell) return std::nullopt;
+  if (const int digit = form_->Cell(*cell).text; digit != 0) return digit;
+  if (!hoveredCell_ || !mouse_) return std::nullopt;
+  const std::optional<int> mark = DigitAt({mouse_->x, mouse_->y});
+  return mark && IsMarkShown(*form_, *cell, *mark) ? mark : std::nullopt;
 }
 
 void BoardWidget::focusInEvent(QFocusEvent*) {

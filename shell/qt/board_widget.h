@@ -29,6 +29,12 @@ class BoardWidget final : public QWidget {
   // Call it when anything has changed that decides what a click does.
   void UpdateTarget();
 
+  void SetCageColours(const CageColours& colours);
+  // Whether pointing at a digit or a mark, or focusing a digit, rings all of its kind.
+  void RingSameDigits(bool on);
+  // Rings that digit wherever the player points.
+  void RingDigit(std::optional<int> digit);
+
   BoardGeometry Geometry() const;
   // Where the cell lies, in the widget's own coordinates.
   QRectF CellRect(int cell) const;
@@ -60,6 +66,7 @@ class BoardWidget final : public QWidget {
   void SetHoveredCell(std::optional<int> cell);
   void FollowMouse(const QMouseEvent& event);
   std::optional<TargetMark> TargetUnderMouse() const;
+  std::optional<int> RingedDigit() const;
   bool MoveFocus(int key);
   bool ActOnKey(const QKeyEvent& event);
   void ReleaseOnMark(int digit, MouseButton button);
@@ -70,6 +77,9 @@ class BoardWidget final : public QWidget {
   std::optional<CellPoint> mouse_;  // where it is on the board
   bool leftDown_ = false;
   std::optional<TargetMark> target_;
+  CageColours cageColours_ = kCageColours;
+  bool ringsSameDigits_ = false;
+  std::optional<int> chosenDigit_;
   std::optional<int> hoveredCell_;  // by the mouse, until a key moves the focus
 };
 

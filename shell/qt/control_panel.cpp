@@ -195,6 +195,7 @@ void ControlPanel::MarkRunning(Button button, bool running) {
 }
 
 void ControlPanel::Measure() {
+  HideDigitBar();
   for (const Arrangement arrangement : {Arrangement::kBelow, Arrangement::kBeside}) {
     arrangement_ = arrangement == Arrangement::kBelow ? Arrangement::kBeside : Arrangement::kBelow;
     Arrange(arrangement);
@@ -240,6 +241,7 @@ void ControlPanel::ArrangeBeside() {
           {help_, 3, 0},
           {Of(Button::CommandExit), 3, 1}})
       ->setRowStretch(2, 1);
+  PlaceDigitBar();
   ResizeHintLabel(*textHint_, Enlarged(font()), kHintWidthBeside);
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
 }

@@ -14,6 +14,8 @@ class QFrame;
 
 namespace tessel {
 
+class DigitBar;
+
 class ControlPanel final : public QWidget {
   Q_OBJECT
 
@@ -30,6 +32,13 @@ class ControlPanel final : public QWidget {
   // The room that the panel takes in that arrangement, whichever it has now.
   QSize SizeFor(Arrangement arrangement) const { return sizes_[IndexOf(arrangement)]; }
 
+  // Whether the player wants the bar of digits. It is shown in a game, in the arrangement beside
+  // the board and where nothing else has to move for it.
+  void OfferDigitBar(bool on, const Form& form);
+  bool HasRoomForDigitBar() const;
+  // Shows what is left of each digit, if the bar is shown.
+  void CountDigits(const Form& form);
+
   // Null for the spare button, which is not shown.
   QPushButton* Of(Button button) const { return buttons_[tessel::IndexOf(button)]; }
   QCheckBox* Of(CheckBox box) const { return boxes_[tessel::IndexOf(box)]; }
@@ -45,11 +54,13 @@ class ControlPanel final : public QWidget {
   void ButtonClicked(tessel::Button button);
   void BoxClicked(tessel::CheckBox box);
   void HelpClicked();
+  void DigitChosen(std::optional<int> digit);
   // The desktop changed its font or style: the panel takes other room now.
   void RoomChanged();
 
  protected:
   void changeEvent(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   static std::size_t IndexOf(Arrangement arrangement) {
@@ -60,6 +71,9 @@ class ControlPanel final : public QWidget {
   void MakeHelp();
   QPushButton* MakeStepButton(const char* name, const char* tip, const char* keys);
   void Measure();
+  void PlaceDigitBar();
+  void FitDigitBar();
+  void HideDigitBar();
   void ArrangeBeside();
   void ArrangeBelow();
   QFrame* FrameOf(ControlGroup group) const;
@@ -71,6 +85,8 @@ class ControlPanel final : public QWidget {
   QPushButton* help_ = nullptr;
   QPushButton* undo_ = nullptr;
   QPushButton* redo_ = nullptr;
+  DigitBar* digitBar_ = nullptr;  // not made before it is wanted
+  bool wantsDigitBar_ = false;
   QFrame* generation_ = nullptr;
   QFrame* solveButtons_ = nullptr;
   QLabel* textHint_ = nullptr;

@@ -55,11 +55,13 @@ int main(int given, char** argv) {
   std::setlocale(LC_NUMERIC, "C");  // Qt took over the user's; times are written with a point
   QApplication::setApplicationName("tessel-sudoku");
 
-  tessel::TesselWindow window;
+  tessel::TesselWindow window(tessel::Preferences::UserFile());
+  tessel::SoundSwitch sounds(player);
   tessel::SystemClock clock;
   tessel::SeededRandom random;
-  tessel::Tessel_Main logic(window, player, clock, random, *folder, tessel::RealSystemCalls(),
+  tessel::Tessel_Main logic(window, sounds, clock, random, *folder, tessel::RealSystemCalls(),
                             tessel::UserDataFolder());
+  window.SwitchSounds(sounds);
   window.Attach(logic);
   logic.Form_Load();
   return QApplication::exec();

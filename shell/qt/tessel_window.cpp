@@ -9,6 +9,7 @@
 
 #include "shell/qt/app_icon.h"
 #include "shell/qt/help_dialog.h"
+#include "shell/qt/view_actions.h"
 
 namespace tessel {
 
@@ -26,8 +27,9 @@ constexpr std::chrono::milliseconds kFrameTime{3};
 
 }  // namespace
 
-TesselWindow::TesselWindow()
-    : menu_(new MenuBar(this)),
+TesselWindow::TesselWindow(const QString& preferencesFile)
+    : preferences_(preferencesFile),
+      menu_(new MenuBar(this)),
       board_(new BoardWidget(this)),
       panel_(new ControlPanel(this)),
       notice_(new QLabel(this)) {
@@ -49,6 +51,7 @@ TesselWindow::TesselWindow()
   });
   connect(panel_, &ControlPanel::HelpClicked, this, &TesselWindow::OpenHelp);
   connect(panel_, &ControlPanel::RoomChanged, this, &TesselWindow::ArrangePanel);
+  connect(panel_, &ControlPanel::DigitChosen, board_, &BoardWidget::RingDigit);
   connect(board_, &BoardWidget::CellReleased, this,
           [this](int cell, MouseButton button, double x, double y) {
             logic_->Grid_MouseUp(cell, button, 0, x, y);
@@ -84,6 +87,7 @@ void TesselWindow::BuildMenus() {
       Entry::kExit, [this] { panel_->Of(Button::CommandExit)->click(); },
       [this] { return logic_->AcceptsInput(Button::CommandExit); });
   menu_->Connect(Entry::kHelp, [this] { OpenHelp(); });
+  ConnectViewMenu(*menu_, {*this, *board_, *panel_, logic_->form(), preferences_, sounds_});
   gameActions_.emplace(*menu_, *panel_, *logic_, [this] { Sync(); });
   puzzleActions_.emplace(
       *menu_, *this, *logic_, [this] { Sync(); },
@@ -125,7 +129,7 @@ bool TesselWindow::AskYesNo(const std::string& question, const std::string& titl
 }
 
 void TesselWindow::Beep() {
-  QApplication::beep();
+  if (WantsSounds(preferences_)) QApplication::beep();
 }
 
 // Not quit(): that would ask the window to close, and the window would ask the player again.
@@ -162,6 +166,7 @@ void TesselWindow::Sync() {
   if (std::exchange(changedCaptions_, false)) board_->UpdateCaptions();
   if (std::exchange(changedControls_, false)) SyncControls();
   board_->UpdateTarget();
+  panel_->CountDigits(logic_->form());
   menu_->Update();
 }
 

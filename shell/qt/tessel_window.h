@@ -11,7 +11,9 @@
 #include "shell/qt/event_pump.h"
 #include "shell/qt/game_actions.h"
 #include "shell/qt/menu_bar.h"
+#include "shell/qt/preferences.h"
 #include "shell/qt/puzzle_actions.h"
+#include "shell/qt/sound_switch.h"
 #include "shell/tessel_main.h"
 
 class QBoxLayout;
@@ -24,8 +26,11 @@ class TesselWindow final : public QWidget, public View {
   Q_OBJECT
 
  public:
-  TesselWindow();
+  // What the player chooses is kept in that file, or nowhere.
+  explicit TesselWindow(const QString& preferencesFile = {});
 
+  // Before Attach: what the entry Sounds switches.
+  void SwitchSounds(SoundSwitch& sounds) { sounds_ = &sounds; }
   // Once, before the logic's Form_Load; the logic must live as long as the window gets events.
   void Attach(Tessel_Main& logic);
 
@@ -52,6 +57,8 @@ class TesselWindow final : public QWidget, public View {
   void ArrangePanel();
   void OpenHelp();
 
+  Preferences preferences_;
+  SoundSwitch* sounds_ = nullptr;
   Tessel_Main* logic_ = nullptr;
   MenuBar* menu_;
   BoardWidget* board_;

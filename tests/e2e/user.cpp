@@ -221,6 +221,10 @@ BoardHighlights User::Focus() const {
   return {.active = focusedCell_, .focused = focusedCell_};
 }
 
+void User::PointAt(int cell, int digit) const {
+  program_.Window().PointAt(twin_.MarkPlace(cell, digit));
+}
+
 testing::AssertionResult User::SeesTarget(const ExpectedBoard& board, const TargetMark& target) {
   program_.Window().PointAt(twin_.MarkPlace(target.cell, target.digit), target.pressed);
   if (target.pressed) focusedCell_ = target.cell;
@@ -238,8 +242,9 @@ testing::AssertionResult User::SeesNoTarget(const ExpectedBoard& board, int cell
 }
 
 testing::AssertionResult User::SeesHighlights(const ExpectedBoard& board,
-                                              const BoardHighlights& highlights) const {
-  const QImage expected = twin_.Board(board, highlights);
+                                              const BoardHighlights& highlights,
+                                              const CageColours& colours) const {
+  const QImage expected = twin_.Board(board, highlights, colours);
   QImage seen;
   const auto looksSo = [&] {
     seen = LooksAt(twin_.AreaOfBoard());

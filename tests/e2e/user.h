@@ -70,6 +70,12 @@ class User {
   testing::AssertionResult SeesTarget(const ExpectedBoard& board, const TargetMark& target);
   testing::AssertionResult SeesNoTarget(const ExpectedBoard& board, int cell, int digit);
 
+  // Whether the board comes to look so, with the mouse where it is.
+  testing::AssertionResult SeesHighlights(const ExpectedBoard& board,
+                                          const BoardHighlights& highlights,
+                                          const CageColours& colours = kCageColours) const;
+  void PointAt(int cell, int digit) const;
+
   // What the board shows now, and whether it is that.
   QImage LooksAtBoard() const;
   bool Recognises(const QImage& picture, const ExpectedBoard& board) const;
@@ -81,8 +87,6 @@ class User {
  private:
   QImage LooksAt(const QRect& area) const;
   BoardHighlights Focus() const;
-  testing::AssertionResult SeesHighlights(const ExpectedBoard& board,
-                                          const BoardHighlights& highlights) const;
 
   RunningProgram program_;
   WindowTwin twin_;

@@ -73,13 +73,15 @@ QString WindowTwin::ShortcutOf(const char* control) const {
   return Find<QWidget>(control).toolTip().section('\n', -1);
 }
 
-QImage WindowTwin::Board(const ExpectedBoard& board, const BoardHighlights& highlights) const {
+QImage WindowTwin::Board(const ExpectedBoard& board, const BoardHighlights& highlights,
+                         const CageColours& colours) const {
   QImage image(BoardOf().size(), QImage::Format_RGB32);
   image.fill(window_.palette().color(QPalette::Window));
   QPainter painter(&image);
   const BoardGeometry geometry = BoardOf().Geometry();
-  BoardPainter(board.form(), board.state(), geometry, BoardOf().font())
-      .Paint(painter, image.rect(), highlights);
+  BoardPainter painted(board.form(), board.state(), geometry, BoardOf().font());
+  painted.SetCageColours(colours);
+  painted.Paint(painter, image.rect(), highlights);
   return image;
 }
 

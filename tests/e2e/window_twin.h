@@ -36,7 +36,8 @@ class WindowTwin {
   QString ShortcutOf(const char* control) const;
 
   // The board as it must look.
-  QImage Board(const ExpectedBoard& board, const BoardHighlights& highlights) const;
+  QImage Board(const ExpectedBoard& board, const BoardHighlights& highlights,
+               const CageColours& colours = kCageColours) const;
   QImage Button(const char* button, const char* caption, bool enabled);
   // The button of a command that runs.
   QImage RunningButton(tessel::Button button, const char* caption);

@@ -68,6 +68,11 @@ class Photographer {
     Place(1, 1);
     Click(Button::CommandHint);
     Take("9-wrong-digit");
+    for (const Entry entry : {Entry::kSameDigits, Entry::kDigitBar, Entry::kSofterColours}) {
+      window_.findChild<MenuBar*>()->Of(entry)->trigger();
+    }
+    PointAt(EmptyCell(60));
+    Take("10-view");
   }
 
  private:

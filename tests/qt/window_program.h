@@ -20,8 +20,11 @@
 namespace tessel {
 
 struct WindowProgram {
-  explicit WindowProgram(QSize size = {}, std::uint64_t firstSeed = 1) : clock(firstSeed) {
+  explicit WindowProgram(QSize size = {}, std::uint64_t firstSeed = 1,
+                         const QString& preferencesFile = {})
+      : clock(firstSeed), window(preferencesFile) {
     if (size.isValid()) window.resize(size);
+    window.SwitchSounds(sounds);
     window.Attach(main);
     main.Form_Load();
     QCoreApplication::processEvents();
@@ -76,9 +79,10 @@ struct WindowProgram {
   TemporaryFolder folder;
   FakeClock clock;
   FakeSoundPlayer player;
+  SoundSwitch sounds{player};
   SeededRandom random;
   TesselWindow window;
-  Tessel_Main main{window, player, clock, random, folder.Path().string()};
+  Tessel_Main main{window, sounds, clock, random, folder.Path().string()};
 };
 
 }  // namespace tessel
