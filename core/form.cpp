@@ -99,6 +99,9 @@ void Form::SetTextHint(const std::string& text) {
 void Form::SetNotice(const std::string& text) {
   Assign(notice_, text, FormPart::kNotice);
 }
+void Form::SetNews(const std::string& text) {
+  Assign(news_, text, FormPart::kNews);
+}
 
 void Form::ReplaceText1Selection(const std::string& text) {
   if (text1_.ReplaceSelection(text)) view_.FormChanged(FormPart::kText1, 0);

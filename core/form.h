@@ -92,9 +92,12 @@ class Form {
   void SelectText1(std::size_t start, std::size_t length) { text1_.Select(start, length); }
   void ReplaceText1Selection(const std::string& text);
 
-  // The line at the foot of the window; empty when there is nothing to say.
+  // What went wrong, for the foot of the window; empty when all is well.
   const std::string& Notice() const { return notice_; }
   void SetNotice(const std::string& text);
+  // What happened, in one line for the same place; what went wrong is shown before it.
+  const std::string& News() const { return news_; }
+  void SetNews(const std::string& text);
 
  private:
   template <typename T>
@@ -112,6 +115,7 @@ class Form {
   std::string textHint_;
   SpareText text1_;
   std::string notice_;
+  std::string news_;
   bool solveButtonsVisible_ = false;
   std::optional<Button> running_;
 };

@@ -12,6 +12,7 @@ inline constexpr char kHint[] = "Hint";
 inline constexpr char kShowMe[] = "Show Me";
 inline constexpr char kPressHint[] = "Press [Hint] if you got stuck";
 inline constexpr char kNoMoreHints[] = "No more logical hints";
+inline constexpr char kGameStaysOpen[] = "Your game stays open; Solve opens the new puzzle";
 inline constexpr char kQuitProgram[] = "Do you really want to quit this program?";
 inline constexpr char kQuitSolving[] = "Do you really want to quit solving ?";
 

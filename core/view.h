@@ -17,6 +17,7 @@ enum class FormPart : std::uint8_t {
   kHintText,
   kText1,
   kNotice,
+  kNews,
 };
 
 // Everything but FormChanged may call back into Tessel_Main before it returns: PumpEvents and

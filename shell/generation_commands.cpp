@@ -26,12 +26,19 @@ class RunningCommandScope {
   RunningCommandScope(Form& form, Button button) : form_(form) {
     form_.SetRunning(button);
     form_.SetNotice("");
+    form_.SetNews(form_.SolveButtonsVisible() ? texts::kGameStaysOpen : "");
+    if (form_.SolveButtonsVisible()) ShowEveryMark();
   }
   RunningCommandScope(const RunningCommandScope&) = delete;
   RunningCommandScope& operator=(const RunningCommandScope&) = delete;
   ~RunningCommandScope() { form_.SetRunning(std::nullopt); }
 
  private:
+  // An open game has hidden marks, and the commands draw on what is visible.
+  void ShowEveryMark() {
+    for (int cell = 0; cell < kCellCount; ++cell) form_.SetMarksVisible(cell, true);
+  }
+
   Form& form_;
 };
 
@@ -124,9 +131,17 @@ void GenerationCommands::SaveTessel() {
   if (folder != state_.ProgramPath) MakeFolder(folder, system_);
   const std::string path = folder + kPuzzleFileName;
   const auto letWindowAnswer = [this] { view_.PumpEventsNow(); };
-  if (const auto error = SavePuzzle(path, state_.SavedPuzzle, system_, letWindowAnswer)) {
-    form_.SetNotice("The puzzle could not be saved to " + path + ": " + *error);
+  const auto number = SavePuzzle(path, state_.SavedPuzzle, system_, letWindowAnswer);
+  if (number) {
+    TellOfSave(*number, path);
+  } else {
+    form_.SetNotice("The puzzle could not be saved to " + path + ": " + number.error());
   }
+}
+
+void GenerationCommands::TellOfSave(std::int64_t number, const std::string& path) {
+  const std::string solve = form_.SolveButtonsVisible() ? "; Solve opens it" : "";
+  form_.SetNews("Saved as puzzle " + std::to_string(number) + " in " + path + solve);
 }
 
 }  // namespace tessel

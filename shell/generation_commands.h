@@ -1,6 +1,7 @@
 // Saw, Fill and Conceal: their clicks, the stages that they lead to, and the saved puzzle.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -33,6 +34,7 @@ class GenerationCommands {
   bool RunFill();     // whether it completed
   bool RunConceal();  // likewise
   void SaveTessel();
+  void TellOfSave(std::int64_t number, const std::string& path);
 
   GameState& state_;
   Form& form_;

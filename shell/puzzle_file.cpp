@@ -4,8 +4,8 @@
 #include <sys/file.h>
 
 #include <cerrno>
+#include <optional>
 #include <system_error>
-#include <tl/expected.hpp>
 #include <utility>
 
 namespace tessel {
@@ -107,27 +107,28 @@ tl::expected<bool, std::string> StandsAt(const std::string& path, const struct s
 
 }  // namespace
 
-std::optional<std::string> AppendPuzzle(const std::string& path, const PuzzleRecord& record,
-                                        SystemCalls& system, WriteClaim& claim) {
+AppendedPuzzle AppendPuzzle(const std::string& path, const PuzzleRecord& record,
+                            SystemCalls& system, WriteClaim& claim) {
   const std::int64_t deadline = system.Milliseconds() + kLockPatienceMilliseconds;
   do {
     OpenFile file(system, path);
-    if (!file.IsOpen()) return LastError();
-    if (auto error = file.Lock(deadline)) return error;
+    if (!file.IsOpen()) return tl::unexpected(LastError());
+    if (const auto error = file.Lock(deadline)) return tl::unexpected(*error);
     const auto status = file.Status();
-    if (!status) return status.error();
+    if (!status) return tl::unexpected(status.error());
     const auto stands = StandsAt(path, *status, system);
-    if (!stands) return stands.error();
+    if (!stands) return tl::unexpected(stands.error());
     if (!*stands) continue;
-    if (!claim.Take()) return "Given up";
-    if (auto error = file.Append(record, status->st_size)) return error;
-    return file.Close();
+    if (!claim.Take()) return tl::unexpected<std::string>("Given up");
+    if (const auto error = file.Append(record, status->st_size)) return tl::unexpected(*error);
+    if (const auto error = file.Close()) return tl::unexpected(*error);
+    return RecordsIn(status->st_size) + 1;
   } while (system.Milliseconds() < deadline);
-  return "Another program keeps moving the file";
+  return tl::unexpected<std::string>("Another program keeps moving the file");
 }
 
-std::optional<std::string> AppendPuzzle(const std::string& path, const PuzzleRecord& record,
-                                        SystemCalls& system) {
+AppendedPuzzle AppendPuzzle(const std::string& path, const PuzzleRecord& record,
+                            SystemCalls& system) {
   WriteClaim claim;
   return AppendPuzzle(path, record, system, claim);
 }

@@ -3,8 +3,8 @@
 
 #include <atomic>
 #include <cstdint>
-#include <optional>
 #include <string>
+#include <tl/expected.hpp>
 
 #include "core/puzzle_record.h"
 #include "shell/system_calls.h"
@@ -33,13 +33,13 @@ class WriteClaim {
 
 // Appends the record to the file, which is created when missing, and has it on disk on return.
 // Programs that append to the same file wait for each other, up to 2.9 seconds; a file that is
-// moved or deleted meanwhile is begun anew at its path. Returns what went wrong, in the system's
-// words, with the file as long as it was; nothing when the record is safe.
-[[nodiscard]] std::optional<std::string> AppendPuzzle(const std::string& path,
-                                                      const PuzzleRecord& record,
-                                                      SystemCalls& system, WriteClaim& claim);
-[[nodiscard]] std::optional<std::string> AppendPuzzle(const std::string& path,
-                                                      const PuzzleRecord& record,
-                                                      SystemCalls& system);
+// moved or deleted meanwhile is begun anew at its path. Returns the record's number in the file,
+// from 1, once the record is safe; else what went wrong, in the system's words, with the file as
+// long as it was.
+using AppendedPuzzle = tl::expected<std::int64_t, std::string>;
+[[nodiscard]] AppendedPuzzle AppendPuzzle(const std::string& path, const PuzzleRecord& record,
+                                          SystemCalls& system, WriteClaim& claim);
+[[nodiscard]] AppendedPuzzle AppendPuzzle(const std::string& path, const PuzzleRecord& record,
+                                          SystemCalls& system);
 
 }  // namespace tessel

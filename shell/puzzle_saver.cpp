@@ -4,8 +4,6 @@
 #include <future>
 #include <memory>
 
-#include "shell/puzzle_file.h"
-
 namespace tessel {
 
 namespace {
@@ -18,7 +16,7 @@ struct Save {
   std::string path;
   PuzzleRecord record;
   WriteClaim claim;
-  std::promise<std::optional<std::string>> outcome;
+  std::promise<AppendedPuzzle> outcome;
 };
 
 std::string GiveUp(Save& save) {
@@ -28,8 +26,8 @@ std::string GiveUp(Save& save) {
 
 }  // namespace
 
-std::optional<std::string> SavePuzzle(const std::string& path, const PuzzleRecord& record,
-                                      SystemCalls& system, const std::function<void()>& meanwhile) {
+AppendedPuzzle SavePuzzle(const std::string& path, const PuzzleRecord& record, SystemCalls& system,
+                          const std::function<void()>& meanwhile) {
   const auto save = std::make_shared<Save>();
   save->path = path;
   save->record = record;
@@ -39,7 +37,7 @@ std::optional<std::string> SavePuzzle(const std::string& path, const PuzzleRecor
     save->outcome.set_value(AppendPuzzle(save->path, save->record, system, save->claim));
   });
   while (outcome.wait_for(kPause) != std::future_status::ready) {
-    if (system.Milliseconds() >= deadline) return GiveUp(*save);
+    if (system.Milliseconds() >= deadline) return tl::unexpected(GiveUp(*save));
     meanwhile();
   }
   return outcome.get();

@@ -11,8 +11,11 @@ namespace tessel {
 void SolvingMode::CommandSolve_Click() {
   form_.SetCaption(texts::kProgram);
   form_.SetNotice("");
+  form_.SetNews("");
   const bool isOpen = form_.SolveButtonsVisible();
   form_.ShowSolveButtons(true);
+  form_.Enable(Button::CommandHint, true);
+  form_.Enable(Button::CommandSolution, true);
   CommandRestart_Click();
   if (!isOpen) EndHistory();
 }
@@ -85,6 +88,7 @@ void SolvingMode::CommandSolution_Click() {
 void SolvingMode::Leave() {
   for (int cell = 0; cell < kCellCount; ++cell) ShowSavedCell(cell);
   form_.SetAllCaptions(kBlack);
+  form_.SetNews("");
   form_.ShowSolveButtons(false);
   EndHistory();
 }

@@ -153,6 +153,7 @@ void TesselWindow::FormChanged(FormPart part, int index) {
     case FormPart::kHintText:
     case FormPart::kText1:
     case FormPart::kNotice:
+    case FormPart::kNews:
       changedControls_ = true;
       return;
   }

@@ -238,11 +238,11 @@ int CheckedProgram::ExpectedText(int cell) const {
   return 0;
 }
 
-// Only the solving mode shows and hides marks: while it is open, those of the candidates in an
-// empty cell (all nine when they are not updated) and none beside a digit; else all nine, however
-// they are coloured. The generation leaves them as they are.
+// While the board as played is shown, the marks are those of the candidates in an empty cell (all
+// nine when they are not updated) and none beside a digit; else all nine, however they are
+// coloured. A command of the generation shows them when it begins.
 Mask CheckedProgram::ExpectedMarks(int cell) const {
-  if (!solving_) return kAllCandidates;
+  if (!solving_ || texts_ != Texts::kPlayBoard) return kAllCandidates;
   if (state_.PlayBoard.Board[cell] != 0) return 0;
   return state_.PencilmarkMode == MarkMode::kAutomatic ? state_.Candidates[cell] : kAllCandidates;
 }

@@ -1,4 +1,8 @@
 // The generation buttons work while the solving mode is open.
+#include <gmock/gmock.h>
+
+#include <utility>
+
 #include "tests/shell/disturbance.h"
 #include "tests/shell/enabled_buttons.h"
 #include "tests/shell/solving_test.h"
@@ -101,31 +105,47 @@ TEST_F(CommandsWhileSolving, TheWholeFrameWorksAfterANewSaw) {
   }
 }
 
-TEST_F(CommandsWhileSolving, AFillClearsTheTextsAndDrawsOnTheMarksThatAreShown) {
+TEST_F(CommandsWhileSolving, EveryCommandMakesEveryMarkVisibleWhenItBegins) {
+  for (const Button command : {Button::CommandSaw, Button::CommandGo, Button::CommandConceal}) {
+    program.main.Click(Button::CommandRestart);
+    ASSERT_EQ(Shown(kGiven), 0);
+    bool seen = false;
+    program.view.onPump = [&](long) {
+      if (std::exchange(seen, true)) return;
+      for (int cell = 0; cell < kCellCount; ++cell) EXPECT_EQ(Shown(cell), kAllCandidates);
+    };
+    if (command == Button::CommandSaw) {
+      SawIrregular();
+    } else {
+      program.main.Click(command);
+    }
+    program.view.onPump = nullptr;
+    EXPECT_TRUE(seen);
+  }
+}
+
+TEST_F(CommandsWhileSolving, AFillShowsOneBlackMarkInEveryCell) {
   SawIrregular();
   program.main.Click(Button::CommandGo);
   for (int cell = 0; cell < kCellCount; ++cell) {
     EXPECT_EQ(form().Cell(cell).text, 0);
-    EXPECT_EQ(Shown(cell), KnownCandidates(cell)) << "visible or not as the solving mode left it";
+    EXPECT_EQ(Shown(cell), kAllCandidates);
     for (int digit = 1; digit <= kSide; ++digit) {
       EXPECT_EQ(form().Mark(cell, digit).colour == kBlack, digit == state().WorkGrid[cell]);
     }
   }
 }
 
-// Deliberate: what the solving mode has hidden stays hidden until Quit.
-TEST_F(CommandsWhileSolving, MarksHiddenBySolvingStayInvisibleForAFillUntilQuit) {
+TEST_F(CommandsWhileSolving, TheFootOfTheWindowTellsThatSolveOpensTheNewPuzzle) {
+  EXPECT_EQ(form().News(), "");
   SawIrregular();
+  EXPECT_EQ(form().News(), "Your game stays open; Solve opens the new puzzle");
   program.main.Click(Button::CommandGo);
-  const int filled = state().WorkGrid[kGiven];
-  EXPECT_FALSE(form().Mark(kGiven, filled).visible);
-  program.main.Click(Button::CommandQuit);
-  EXPECT_TRUE(form().Mark(kGiven, filled).visible);
-  program.main.Click(Button::CommandGo);
-  for (int cell = 0; cell < kCellCount; ++cell) {
-    EXPECT_TRUE(form().Mark(cell, state().WorkGrid[cell]).visible);
-    EXPECT_EQ(form().Mark(cell, state().WorkGrid[cell]).colour, kBlack);
-  }
+  EXPECT_EQ(form().News(), "Your game stays open; Solve opens the new puzzle");
+  program.main.Click(Button::CommandConceal);
+  EXPECT_THAT(form().News(), testing::MatchesRegex("Saved as puzzle 2 in .*sds; Solve opens it"));
+  program.main.Click(Button::CommandSolve);
+  EXPECT_EQ(form().News(), "");
 }
 
 TEST_F(CommandsWhileSolving, TheOldBoardGoesOnAfterANewPuzzleUntilRestart) {

@@ -235,7 +235,7 @@ TEST_F(PuzzleFileFaults, AFileThatIsMovedAgainAndAgainIsGivenUp) {
 TEST_F(PuzzleFileFaults, ARecordThatWasGivenUpIsNotWritten) {
   WriteClaim claim;
   ASSERT_TRUE(claim.Take());
-  EXPECT_NE(AppendPuzzle(Path().string(), NumberedRecord(3), system, claim), std::nullopt);
+  EXPECT_EQ(ErrorOf(AppendPuzzle(Path().string(), NumberedRecord(3), system, claim)), "Given up");
   EXPECT_EQ(system.Made(kPwrite), 0);
   EXPECT_EQ(RecordsOf(Path()).size(), 2u);
 }

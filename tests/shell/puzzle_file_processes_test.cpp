@@ -19,7 +19,7 @@ class PuzzleFileProcesses : public PuzzleFileTest {
     const pid_t child = fork();
     if (child != 0) return child;
     for (std::uint32_t n = first; n < first + count; ++n) {
-      if (AppendPuzzle(Path().string(), NumberedRecord(n), RealSystemCalls())) _exit(1);
+      if (!AppendPuzzle(Path().string(), NumberedRecord(n), RealSystemCalls())) _exit(1);
     }
     _exit(0);
   }
@@ -96,7 +96,7 @@ TEST_F(PuzzleFileProcesses, WithoutRoomForAWholeRecordNothingIsLeftBehind) {
     signal(SIGXFSZ, SIG_IGN);
     const rlimit limit{300, 300};
     setrlimit(RLIMIT_FSIZE, &limit);
-    const auto error = AppendPuzzle(Path().string(), NumberedRecord(1), RealSystemCalls());
+    const auto error = ErrorOf(AppendPuzzle(Path().string(), NumberedRecord(1), RealSystemCalls()));
     _exit(error == "No space left on device" ? 0 : 1);
   }
   EXPECT_EQ(StatusOf(child), 0);

@@ -29,7 +29,7 @@ TEST_F(PuzzleFile, HoldsBoardSolutionAndCagesAsSingleBytes) {
   record.Board.fill(1);
   record.Solution.fill(2);
   record.CageMap.fill(9);
-  ASSERT_EQ(AppendPuzzle(Path().string(), record, system), std::nullopt);
+  ASSERT_EQ(AppendPuzzle(Path().string(), record, system), 1);
   EXPECT_EQ(Contents(), std::string(81, '\1') + std::string(81, '\2') + std::string(81, '\t'));
 }
 
@@ -128,16 +128,16 @@ TEST_F(PuzzleFile, ADeviceInItsPlaceIsNotWritten) {
 
 TEST_F(PuzzleFile, AMissingFolderIsToldAndNotMade) {
   const auto missing = folder.Path() / "missing";
-  EXPECT_EQ(AppendPuzzle((missing / kPuzzleFileName).string(), NumberedRecord(1), system),
+  EXPECT_EQ(ErrorOf(AppendPuzzle((missing / kPuzzleFileName).string(), NumberedRecord(1), system)),
             "No such file or directory");
   EXPECT_FALSE(std::filesystem::exists(missing));
 }
 
 TEST_F(PuzzleFile, AFolderThatIsAFileIsTold) {
   WriteFile(folder.Path() / "file", "text");
-  EXPECT_EQ(
-      AppendPuzzle((folder.Path() / "file" / kPuzzleFileName).string(), NumberedRecord(1), system),
-      "Not a directory");
+  EXPECT_EQ(ErrorOf(AppendPuzzle((folder.Path() / "file" / kPuzzleFileName).string(),
+                                 NumberedRecord(1), system)),
+            "Not a directory");
   EXPECT_EQ(ReadFile(folder.Path() / "file"), "text");
 }
 

@@ -65,12 +65,16 @@ inline std::vector<PuzzleRecord> RecordsOf(const std::filesystem::path& path) {
   return records;
 }
 
+inline std::optional<std::string> ErrorOf(const AppendedPuzzle& outcome) {
+  return outcome ? std::nullopt : std::optional(outcome.error());
+}
+
 class PuzzleFileTest : public testing::Test {
  protected:
   std::filesystem::path Path() const { return folder.PuzzleFile(); }
   std::string Contents() const { return ReadFile(Path()); }
   std::optional<std::string> Append(std::uint32_t n) {
-    return AppendPuzzle(Path().string(), NumberedRecord(n), system);
+    return ErrorOf(AppendPuzzle(Path().string(), NumberedRecord(n), system));
   }
   void AppendWell(std::uint32_t n) { EXPECT_EQ(Append(n), std::nullopt); }
 

@@ -102,6 +102,17 @@ TEST_F(SavedPuzzle, NoNoticeAppearsWhenAllIsWell) {
   EXPECT_EQ(Notice(), "");
 }
 
+TEST_F(SavedPuzzle, TheFootOfTheWindowTellsItsNumberAndWhereItIs) {
+  program.MakePuzzle();
+  EXPECT_EQ(program.form().News(), "Saved as puzzle 1 in " + Path());
+  Conceal();
+  EXPECT_EQ(program.form().News(), "Saved as puzzle 2 in " + Path());
+  program.main.Click(Button::CommandGo);
+  EXPECT_EQ(program.form().News(), "");
+  FailToSave();
+  EXPECT_EQ(program.form().News(), "");
+}
+
 TEST_F(SavedPuzzle, TheNoticeIsGoneAtTheNextCommand) {
   for (const Button command :
        {Button::CommandSaw, Button::CommandGo, Button::CommandConceal, Button::CommandSolve}) {

@@ -45,6 +45,18 @@ TEST_F(SolvingButtons, SolveReopensAFinishedBoard) {
   ExpectUntouchedPuzzle();
 }
 
+TEST_F(SolvingButtons, SolveEnablesHintAndThenSolution) {
+  Solution();
+  Quit();
+  std::vector<Button> enabled;
+  program.view.onChange = [&](FormPart part, int index) {
+    const auto button = static_cast<Button>(index);
+    if (part == FormPart::kButton && form().Of(button).enabled) enabled.push_back(button);
+  };
+  program.main.Click(Button::CommandSolve);
+  EXPECT_THAT(enabled, ElementsAre(Button::CommandHint, Button::CommandSolution));
+}
+
 TEST_F(SolvingButtons, SolveKeepsThePencilmarkMode) {
   Untick();
   Quit();
