@@ -46,6 +46,7 @@ struct ButtonTraits {
   bool isLongWork;   // pumps events while it works, and has the window to itself
   const char* keys;  // the shortcut, as Qt writes it
   const char* tip;
+  const char* needs;  // what enables it, told while it is disabled
 };
 
 struct CheckBoxTraits {
@@ -61,31 +62,31 @@ struct CheckBoxTraits {
 // One row for each enumerator, in their order: TraitsOf looks nothing up.
 inline constexpr std::array<ButtonTraits, 10> kButtonTable{{
     {Button::CommandSaw, "CommandSaw", "Saw", ControlGroup::kGeneration, true, true, "Alt+S",
-     "Saw the board into nine new cages"},
+     "Saw the board into nine new cages", ""},
     {Button::CommandGo, "CommandGo", texts::kFill, ControlGroup::kGeneration, false, true, "Alt+F",
-     "Fill the cages with a solution, or stop filling"},
+     "Fill the cages with a solution, or stop filling", "Saw first"},
     {Button::CommandConceal, "CommandConceal", texts::kConceal, ControlGroup::kGeneration, false,
-     true, "Alt+C", "Conceal cells and save the puzzle, or stop concealing"},
+     true, "Alt+C", "Conceal cells and save the puzzle, or stop concealing", "Fill first"},
     {Button::CommandSolve, "CommandSolve", "Solve", ControlGroup::kGeneration, false, false,
-     "Alt+L", "Play the puzzle"},
+     "Alt+L", "Play the puzzle", "Conceal first"},
     {Button::CommandExit, "CommandExit", "Exit", ControlGroup::kProgram, true, false, "Alt+X",
-     "Leave the program"},
-    {Button::Command1, "Command1", "", ControlGroup::kNotShown, true, false, "", ""},
+     "Leave the program", ""},
+    {Button::Command1, "Command1", "", ControlGroup::kNotShown, true, false, "", "", ""},
     {Button::CommandHint, "CommandHint", texts::kHint, ControlGroup::kSolving, true, false, "Alt+H",
-     "Tell the next logical step"},
+     "Tell the next logical step", "The board is full: Restart first"},
     {Button::CommandQuit, "CommandQuit", "Quit", ControlGroup::kSolving, true, false, "Alt+Q",
-     "Stop playing this puzzle"},
+     "Stop playing this puzzle", ""},
     {Button::CommandRestart, "CommandRestart", "Restart", ControlGroup::kSolving, true, false,
-     "Alt+R", "Begin this puzzle again"},
+     "Alt+R", "Begin this puzzle again", ""},
     {Button::CommandSolution, "CommandSolution", "Solution", ControlGroup::kSolving, true, false,
-     "Alt+N", "Show the solution"},
+     "Alt+N", "Show the solution", "The board is full: Restart first"},
 }};
 
 inline constexpr std::array<CheckBoxTraits, 5> kCheckBoxTable{{
     {CheckBox::Rotational, "Rotational", "Saw 180° Rotational", ControlGroup::kGeneration, false,
-     "Alt+O", "Cages that look the same after half a turn"},
+     "Alt+O", "Cages that look the same after half a turn; Make regular Sudoku wins over this"},
     {CheckBox::MakeRegular, "MakeRegular", "Make regular Sudoku", ControlGroup::kGeneration, false,
-     "Alt+M", "The nine 3×3 boxes instead of sawn cages"},
+     "Alt+M", "The nine 3×3 boxes instead of sawn cages; wins over Saw 180° Rotational"},
     {CheckBox::ConcealRotational, "ConcealRotational", "Conceal 180° Rotational",
      ControlGroup::kGeneration, false, "Alt+T", "Conceal cells in pairs that face each other"},
     {CheckBox::CheckVisualize, "CheckVisualize", "Visualize progress", ControlGroup::kGeneration,

@@ -18,6 +18,8 @@ class ConcealProgress final : public WindowProgress {
   void HidingDecided(const CellDigits& givens) override {
     state_.WorkGrid = givens;
     for (int cell = 0; cell < kCellCount; ++cell) form_.SetCellText(cell, givens[cell]);
+    // Most judgements take no step of the search, and each shall be seen.
+    if (form_.Checked(CheckBox::CheckVisualize)) Step();
   }
 
  private:

@@ -33,6 +33,7 @@ void ShowOpenedPuzzle(GameState& state, Form& form, const Puzzle& puzzle) {
   for (int cell = 0; cell < kCellCount; ++cell) ShowCell(state, form, cell);
   form.SetCaption(texts::kProgram);
   form.SetNotice("");
+  form.SetNews("");
   ShowStage(form, Stage::kPuzzleConcealed);
 }
 

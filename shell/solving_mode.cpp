@@ -20,9 +20,9 @@ void SolvingMode::CommandSolve_Click() {
   if (!isOpen) EndHistory();
 }
 
-void SolvingMode::Grid_MouseUp(int cell, MouseButton button, CellPosition at) {
+bool SolvingMode::Grid_MouseUp(int cell, MouseButton button, CellPosition at) {
   const std::optional<Move> move = MoveOf(form_, state_, cell, button, at);
-  if (!move) return;
+  if (!move) return false;
   Make(*move);
   RefreshPencilmarks();
   // A full board ends the game whether it is right or wrong, on purpose: hints point at wrong
@@ -30,6 +30,7 @@ void SolvingMode::Grid_MouseUp(int cell, MouseButton button, CellPosition at) {
   const bool finished = IsFull(state_);
   if (finished) sounds_.PlaySound(Sound::kApplause);
   OpenBoard(!finished);
+  return true;
 }
 
 void SolvingMode::Make(const Move& move) {

@@ -23,8 +23,8 @@ class SolvingMode {
   // Quit, once the player has confirmed it.
   void Leave();
   void CheckPencilmarks_Click();
-  // Does what MoveOf tells.
-  void Grid_MouseUp(int cell, MouseButton button, CellPosition at);
+  // Does what MoveOf tells; false when that is nothing.
+  bool Grid_MouseUp(int cell, MouseButton button, CellPosition at);
 
   // Every click that changed the position is a step: on the board, on Restart and Solution, on the
   // box of the marks. Without a sound, and after the end of a game too.

@@ -26,6 +26,15 @@ static_assert([] {
 
 }  // namespace
 
+std::optional<Button> NextStep(const Form& form) {
+  if (form.Running() || form.SolveButtonsVisible()) return std::nullopt;
+  std::optional<Button> last;
+  for (const Button button : kStageButtons) {
+    if (button != Button::CommandExit && form.Of(button).enabled) last = button;
+  }
+  return last;
+}
+
 void ShowStage(Form& form, Stage stage) {
   const StageTraits& traits = TraitsOf(stage);
   for (std::size_t i = 0; i < kStageButtons.size(); ++i) {

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 
 #include "core/form.h"
 
@@ -43,6 +44,9 @@ inline constexpr std::array<StageTraits, 7> kStages{{
     {Stage::kFilling, {kOff, kOn, kOff, kOff, kOff}, texts::kStop},
     {Stage::kConcealing, {kOff, kOff, kOn, kOff, kOff}, texts::kFill, texts::kStop},
 }};
+
+// The enabled button of the next stage; none while a command runs or a game is open.
+std::optional<Button> NextStep(const Form& form);
 
 // Enables and captions the stage's buttons; touches nothing else.
 void ShowStage(Form& form, Stage stage);

@@ -70,9 +70,9 @@ void Tessel_Main::Toggle(CheckBox box) {
   if (box == CheckBox::CheckPencilmarks) solving_.CheckPencilmarks_Click();
 }
 
-void Tessel_Main::Grid_MouseUp(int cell, MouseButton button, int /*shift*/, double x, double y) {
-  if (!IsIdle() || cell < 0 || cell >= kCellCount) return;
-  solving_.Grid_MouseUp(cell, button, {x, y});
+bool Tessel_Main::Grid_MouseUp(int cell, MouseButton button, int /*shift*/, double x, double y) {
+  if (!IsIdle() || cell < 0 || cell >= kCellCount) return false;
+  return solving_.Grid_MouseUp(cell, button, {x, y});
 }
 
 bool Tessel_Main::OpenPuzzle(const Puzzle& puzzle) {

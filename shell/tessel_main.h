@@ -35,8 +35,8 @@ class Tessel_Main {
   // The box's own toggling and what follows from it; the same restrictions as Click.
   void Toggle(CheckBox box);
   // A mouse button released over a cell, 0..80, at (x, y) units from the cell's top left corner;
-  // positions outside the cell are allowed. The shift state is ignored.
-  void Grid_MouseUp(int cell, MouseButton button, int shift, double x, double y);
+  // positions outside the cell are allowed. The shift state is ignored. True when it did something.
+  bool Grid_MouseUp(int cell, MouseButton button, int shift, double x, double y);
   // Puts another puzzle on the board, which must have its solution, as a completed Conceal leaves
   // one; nothing is saved. A game that is not over is left only when the player agrees, by Quit's
   // question. False, and nothing has changed, when the player does not, and while a command runs or

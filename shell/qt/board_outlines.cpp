@@ -38,12 +38,12 @@ void BoardOutlines::Point(int cell) {
   Ring(place, 0, reach, Qt::white);
 }
 
-void BoardOutlines::Focus(int cell) {
+void BoardOutlines::Focus(int cell, const QColor& colour) {
   const QRect place = geometry_.CellRect(cell);
   const int reach = geometry_.LineReach();
   const int line = geometry_.LineWidth();
   Ring(place, -reach, -reach + line, Qt::white);
-  Ring(place, -reach + line, reach, kFocusRing);
+  Ring(place, -reach + line, reach, colour);
 }
 
 void BoardOutlines::FocusBoard() {

@@ -12,6 +12,8 @@ namespace tessel {
 
 // Of the ring round the cell that the keyboard acts on. Contrast of at least 3:1 on every ground.
 inline constexpr QColor kFocusRing(0, 20, 150);
+// Of the same ring while it flashes, because what was asked for is refused.
+inline constexpr QColor kRefusalRing(255, 0, 0);
 
 // Outlines, because the ground of a cell says which cage it is in. They run in the room that a
 // border takes, or would take, at the edges of cells: there they meet no mark, and where a border
@@ -26,7 +28,7 @@ class BoardOutlines {
   // The same for the cell that is pointed at, white in the whole room.
   void Point(int cell);
   // The keyboard's ring round a cell, and round the whole board while no cell can be played.
-  void Focus(int cell);
+  void Focus(int cell, const QColor& colour = kFocusRing);
   void FocusBoard();
   // Where the row and the column of a hint cross.
   void Hint(int cell);

@@ -95,6 +95,7 @@ void BoardPainter::Paint(QPainter& painter, const QRegion& region,
   painter.setClipRegion(region);
   if (!region.subtracted(geometry_.BoardRect()).isEmpty()) PaintCaptions(painter);
   const auto touched = [&](int cell) { return region.intersects(geometry_.CellRect(cell)); };
+  if (highlights.frame) PaintFrame(painter, *highlights.frame);
   for (int cell = 0; cell < kCellCount; ++cell) {
     const Rgb ground = form_.Cell(cell).PaintedBackground();
     if (touched(cell)) painter.fillRect(geometry_.CellRect(cell), Shown(ground));
@@ -209,6 +210,12 @@ void BoardPainter::PaintEdges(QPainter& painter, int cell, Line line) const {
   if (border && atFrame(CellSide::kBottom)) drawHorizontal(place.top() + place.height());
 }
 
+// In the margin of the panel; the border of the board covers its inner edge.
+void BoardPainter::PaintFrame(QPainter& painter, const QColor& colour) const {
+  const int reach = geometry_.PanelRect().right() - geometry_.BoardRect().right();
+  painter.fillRect(geometry_.BoardRect().adjusted(-reach, -reach, reach, reach), colour);
+}
+
 QRegion BoardPainter::RegionOf(const auto& contains) const {
   QRegion region;
   for (int cell = 0; cell < kCellCount; ++cell) {
@@ -226,7 +233,8 @@ void BoardPainter::PaintHighlights(QPainter& painter, const BoardHighlights& hig
   if (highlights.active && !highlights.digit) PaintLinesOf(painter, *highlights.active);
   if (highlights.active) PaintCageOf(painter, *highlights.active);
   if (const auto hinted = HintedCell()) outlines.Hint(*hinted);
-  if (highlights.focused) outlines.Focus(*highlights.focused);
+  if (highlights.focused)
+    outlines.Focus(*highlights.focused, highlights.refused ? kRefusalRing : kFocusRing);
   if (highlights.target) PaintTarget(painter, *highlights.target);
 }
 

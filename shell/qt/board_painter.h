@@ -1,6 +1,7 @@
 // Paints what a Form says about the board.
 #pragma once
 
+#include <QColor>
 #include <QFont>
 #include <QRegion>
 #include <optional>
@@ -30,6 +31,8 @@ struct BoardHighlights {
   std::optional<TargetMark> target = {};  // wears a ring of its own
   // Ringed wherever it stands, in place of the row and the column.
   std::optional<int> digit = {};
+  bool refused = false;              // the focus ring flashes
+  std::optional<QColor> frame = {};  // round the board
 };
 
 // Whether the digit shown in the cell was put there by the player and not by the puzzle.
@@ -66,6 +69,7 @@ class BoardPainter {
   void PaintLines(QPainter& painter, const QRegion& region, Line line) const;
   void PaintEdges(QPainter& painter, int cell, Line line) const;
   QRegion RegionOf(const auto& contains) const;
+  void PaintFrame(QPainter& painter, const QColor& colour) const;
   void PaintHighlights(QPainter& painter, const BoardHighlights& highlights) const;
   void PaintLinesOf(QPainter& painter, int active) const;
   void PaintCageOf(QPainter& painter, int active) const;

@@ -15,39 +15,13 @@ namespace {
 
 constexpr int kMinBoard = 240;
 constexpr int kDefaultBoard = 560;
+constexpr int kFlashes = 2;
+constexpr std::chrono::milliseconds kFlashTime{60};
 
 std::optional<MouseButton> ButtonOf(Qt::MouseButton pressed) {
   if (pressed == Qt::LeftButton) return MouseButton::kLeft;
   if (pressed == Qt::RightButton) return MouseButton::kRight;
   if (pressed == Qt::MiddleButton) return MouseButton::kMiddle;
-  return std::nullopt;
-}
-
-struct Step {
-  int rows;
-  int columns;
-};
-
-// How far a key moves the focus; moves beyond the board's edge end at the edge.
-std::optional<Step> StepOf(int key) {
-  switch (key) {
-    case Qt::Key_Left:
-      return Step{0, -1};
-    case Qt::Key_Right:
-      return Step{0, 1};
-    case Qt::Key_Up:
-      return Step{-1, 0};
-    case Qt::Key_Down:
-      return Step{1, 0};
-    case Qt::Key_Home:
-      return Step{0, -kSide};
-    case Qt::Key_End:
-      return Step{0, kSide};
-    case Qt::Key_PageUp:
-      return Step{-kSide, 0};
-    case Qt::Key_PageDown:
-      return Step{kSide, 0};
-  }
   return std::nullopt;
 }
 
@@ -60,6 +34,10 @@ BoardWidget::BoardWidget(QWidget* parent) : QWidget(parent) {
   setFocusPolicy(Qt::StrongFocus);
   setMouseTracking(true);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  connect(&flashTimer_, &QTimer::timeout, this, [this] {
+    if (--flashesLeft_ <= 0) flashTimer_.stop();
+    UpdateArea(focusedCell_);
+  });
 }
 
 BoardWidget::~BoardWidget() = default;
@@ -102,9 +80,13 @@ std::optional<CellPoint> BoardWidget::PointAt(QPointF position) const {
 }
 
 void BoardWidget::UpdateCell(int cell) {
+  UpdateArea(cell);
+  BoardAccessible::NotifyCell(*this, cell);
+}
+
+void BoardWidget::UpdateArea(int cell) {
   const int border = qCeil(Geometry().BorderWidth() / devicePixelRatioF());
   update(CellRect(cell).toAlignedRect().adjusted(-border, -border, border, border));
-  BoardAccessible::NotifyCell(*this, cell);
 }
 
 void BoardWidget::UpdateCaptions() {
@@ -123,13 +105,32 @@ void BoardWidget::paintEvent(QPaintEvent* event) {
   for (const QRect& part : event->region()) {
     region += QRectF(QPointF(part.topLeft()) * scale, QSizeF(part.size()) * scale).toAlignedRect();
   }
-  BoardHighlights highlights{.target = target_, .digit = RingedDigit()};
-  if (hasFocus()) highlights.active = highlights.focused = focusedCell_;
-  if (hoveredCell_) highlights.active = hoveredCell_;
+  BoardHighlights highlights = Highlights();
   const BoardGeometry geometry = Geometry();
   BoardPainter board(*form_, *state_, geometry, font());
   board.SetCageColours(cageColours_);
   board.Paint(painter, region, highlights);
+}
+
+BoardHighlights BoardWidget::Highlights() const {
+  BoardHighlights highlights{.target = target_, .digit = RingedDigit()};
+  if (hasFocus()) highlights.active = highlights.focused = focusedCell_;
+  if (hoveredCell_) highlights.active = hoveredCell_;
+  highlights.refused = flashesLeft_ % 2 == 1;
+  if (finished_) highlights.frame = palette().color(QPalette::Highlight);
+  return highlights;
+}
+
+void BoardWidget::Refuse() {
+  flashesLeft_ = 2 * kFlashes - 1;
+  flashTimer_.start(kFlashTime);
+  UpdateArea(focusedCell_);
+}
+
+void BoardWidget::ShowFinished(bool finished) {
+  if (finished == finished_) return;
+  finished_ = finished;
+  update();
 }
 
 void BoardWidget::mousePressEvent(QMouseEvent* event) {
@@ -230,48 +231,6 @@ void BoardWidget::FocusCell(int cell) {
   focusedCell_ = cell;
   update();
   if (hasFocus()) BoardAccessible::NotifyFocus(*this);
-}
-
-void BoardWidget::keyPressEvent(QKeyEvent* event) {
-  if (!MoveFocus(event->key()) && !ActOnKey(*event)) QWidget::keyPressEvent(event);
-}
-
-bool BoardWidget::MoveFocus(int key) {
-  const auto step = StepOf(key);
-  if (!step) return false;
-  SetHoveredCell(std::nullopt);
-  FocusCell(CellAt(std::clamp(RowOf(focusedCell_) + step->rows, 0, kSide - 1),
-                   std::clamp(ColumnOf(focusedCell_) + step->columns, 0, kSide - 1)));
-  return true;
-}
-
-// The number pad's 0 and point are Insert and Delete, whatever NumLock says.
-bool BoardWidget::ActOnKey(const QKeyEvent& event) {
-  const int key = event.key();
-  const bool keypad = event.modifiers().testFlag(Qt::KeypadModifier);
-  const bool isDelete = key == Qt::Key_Delete || key == Qt::Key_Backspace ||
-                        (keypad && (key == Qt::Key_Period || key == Qt::Key_Comma));
-  const bool isInsert = key == Qt::Key_Insert || (keypad && key == Qt::Key_0);
-  const bool isDigit = key >= Qt::Key_1 && key <= Qt::Key_9;
-  if (event.modifiers().testAnyFlags(Qt::AltModifier | Qt::MetaModifier)) return false;
-  if (!isDelete && !isInsert && !isDigit) return false;
-  if (event.isAutoRepeat()) return true;
-  SetHoveredCell(std::nullopt);
-  if (isDelete) {
-    const int digit = form_ == nullptr ? 0 : form_->Cell(focusedCell_).text;
-    if (digit != 0) ReleaseOnMark(digit, MouseButton::kRight);
-  } else if (isInsert) {
-    ReleaseOnMark(5, MouseButton::kMiddle);
-  } else {
-    const bool control = event.modifiers().testFlag(Qt::ControlModifier);
-    ReleaseOnMark(key - Qt::Key_0, control ? MouseButton::kRight : MouseButton::kLeft);
-  }
-  return true;
-}
-
-void BoardWidget::ReleaseOnMark(int digit, MouseButton button) {
-  const CellPosition at = MarkCentre(digit);
-  emit CellReleased(focusedCell_, button, at.x, at.y);
 }
 
 }  // namespace tessel

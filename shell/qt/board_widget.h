@@ -1,6 +1,7 @@
 // The board: one painted widget with 81 cells.
 #pragma once
 
+#include <QTimer>
 #include <QWidget>
 #include <optional>
 
@@ -39,6 +40,11 @@ class BoardWidget final : public QWidget {
   // Where the cell lies, in the widget's own coordinates.
   QRectF CellRect(int cell) const;
 
+  // The focus ring flashes twice: what was asked for was refused.
+  void Refuse();
+  // A game that is over has a frame of its own round the board.
+  void ShowFinished(bool finished);
+
   int FocusedCell() const { return focusedCell_; }
   void FocusCell(int cell);
 
@@ -63,6 +69,8 @@ class BoardWidget final : public QWidget {
  private:
   std::optional<CellPoint> PointAt(QPointF position) const;
   QPointF PixelShift() const;
+  void UpdateArea(int cell);
+  BoardHighlights Highlights() const;
   void SetHoveredCell(std::optional<int> cell);
   void FollowMouse(const QMouseEvent& event);
   std::optional<TargetMark> TargetUnderMouse() const;
@@ -80,6 +88,9 @@ class BoardWidget final : public QWidget {
   CageColours cageColours_ = kCageColours;
   bool ringsSameDigits_ = false;
   std::optional<int> chosenDigit_;
+  bool finished_ = false;
+  int flashesLeft_ = 0;  // changes between the ring and its flash
+  QTimer flashTimer_;
   std::optional<int> hoveredCell_;  // by the mouse, until a key moves the focus
 };
 

@@ -1,4 +1,5 @@
 // The place of the bar of digits in the panel.
+#include <QFrame>
 #include <QGridLayout>
 
 #include "shell/qt/control_panel.h"

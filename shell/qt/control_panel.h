@@ -1,13 +1,12 @@
 // The buttons, boxes and the hint text beside or below the board.
 #pragma once
 
-#include <QLabel>
 #include <QPushButton>
 #include <QWidget>
 #include <array>
-#include <optional>
 
 #include "core/form.h"
+#include "shell/qt/accent.h"
 
 class QCheckBox;
 class QFrame;
@@ -15,13 +14,14 @@ class QFrame;
 namespace tessel {
 
 class DigitBar;
+class HintLabel;
 
 class ControlPanel final : public QWidget {
   Q_OBJECT
 
  public:
-  // The panel stands at the board's right or lies below it.
-  enum class Arrangement { kBeside, kBelow };
+  // The panel stands at the board's right, with air or with little of it, or lies below it.
+  enum class Arrangement { kBeside, kTight, kBelow };
 
   explicit ControlPanel(QWidget* parent = nullptr);
 
@@ -38,6 +38,9 @@ class ControlPanel final : public QWidget {
   bool HasRoomForDigitBar() const;
   // Shows what is left of each digit, if the bar is shown.
   void CountDigits(const Form& form);
+  // Beside the board: lets the hint's font follow the side of a cell, in logical pixels, as far as
+  // so much spare room allows.
+  void GrowHint(double cellSide, QSize spare);
 
   // Null for the spare button, which is not shown.
   QPushButton* Of(Button button) const { return buttons_[tessel::IndexOf(button)]; }
@@ -71,14 +74,15 @@ class ControlPanel final : public QWidget {
   void MakeHelp();
   QPushButton* MakeStepButton(const char* name, const char* tip, const char* keys);
   void Measure();
+  void LayOutFor(Arrangement arrangement);
+  void ArrangeBeside(int spacing, const QFont& hintFont);
   void PlaceDigitBar();
   void FitDigitBar();
   void HideDigitBar();
-  void ArrangeBeside();
   void ArrangeBelow();
   QFrame* FrameOf(ControlGroup group) const;
   void ShowButton(const Form& form, Button button);
-  void MarkRunning(Button button, bool running);
+  void SetAccent(Button button, Accent accent);
 
   std::array<QPushButton*, kButtonCount> buttons_{};
   std::array<QCheckBox*, kCheckBoxCount> boxes_{};
@@ -89,10 +93,10 @@ class ControlPanel final : public QWidget {
   bool wantsDigitBar_ = false;
   QFrame* generation_ = nullptr;
   QFrame* solveButtons_ = nullptr;
-  QLabel* textHint_ = nullptr;
+  HintLabel* textHint_ = nullptr;
   Arrangement arrangement_ = Arrangement::kBeside;
-  std::array<QSize, 2> sizes_;
-  std::optional<Button> running_;  // the button that is marked so
+  std::array<QSize, 3> sizes_;
+  std::array<Accent, kButtonCount> accents_{};
 };
 
 }  // namespace tessel

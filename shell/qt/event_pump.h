@@ -10,12 +10,8 @@ class EventPump {
  public:
   using Clock = std::chrono::steady_clock;
 
-  // Something was drawn that must be seen before the work goes on.
-  void WantFrame() { frameWanted_ = true; }
-
   // Whether the events are due now.
   bool Due() {
-    if (frameWanted_) return true;
     if (++skipped_ < kPumpsPerLook) return false;
     skipped_ = 0;
     return Clock::now() - last_ >= kQuietTime;
@@ -25,7 +21,6 @@ class EventPump {
   void Done() {
     last_ = Clock::now();
     skipped_ = 0;
-    frameWanted_ = false;
   }
 
  private:
@@ -33,7 +28,6 @@ class EventPump {
   static constexpr std::chrono::milliseconds kQuietTime{10};
 
   int skipped_ = 0;
-  bool frameWanted_ = false;
   Clock::time_point last_ = Clock::now();
 };
 

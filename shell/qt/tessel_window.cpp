@@ -1,14 +1,13 @@
 #include "shell/qt/tessel_window.h"
 
 #include <QApplication>
-#include <QBoxLayout>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMessageBox>
-#include <thread>
 
+#include "shell/board_clicks.h"
 #include "shell/qt/app_icon.h"
-#include "shell/qt/help_dialog.h"
+#include "shell/qt/screen_fit.h"
 #include "shell/qt/view_actions.h"
 
 namespace tessel {
@@ -17,59 +16,52 @@ namespace {
 
 constexpr QSize kMinWindow(480, 542);
 constexpr QSize kDefaultWindow(900, 662);
-constexpr int kWidthForNotice = 860;  // a path and the system's words fit into one line
-constexpr int kWideMargin = 8;
-constexpr int kTightMargin = 4;  // where the panel takes height from the board
 
-// The least time that a step of visualised work stays on the screen; 300 steps a second are fast
-// and can still be followed.
-constexpr std::chrono::milliseconds kFrameTime{3};
+bool CanBeStopped(Button button) {
+  return button == Button::CommandGo || button == Button::CommandConceal;
+}
 
 }  // namespace
 
-TesselWindow::TesselWindow(const QString& preferencesFile)
+TesselWindow::TesselWindow(const QString& preferencesFile, FrameClock& clock)
     : preferences_(preferencesFile),
       menu_(new MenuBar(this)),
       board_(new BoardWidget(this)),
       panel_(new ControlPanel(this)),
-      notice_(new QLabel(this)) {
+      foot_(new FootLine(this)),
+      grade_(new PuzzleGrade(this)),
+      layout_(*this, *menu_, *board_, *panel_, *foot_),
+      show_(clock),
+      lateStops_(clock) {
   setWindowIcon(AppIcon());
   setMinimumSize(kMinWindow);
   // Styles that show the focus only after a Tab key shall always show it.
   connect(qApp, &QApplication::focusChanged, this,
           [this] { setAttribute(Qt::WA_KeyboardFocusChange); });
-  notice_->setObjectName("Notice");
-  notice_->setTextFormat(Qt::PlainText);
-  notice_->setWordWrap(true);
-  notice_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-  BuildLayout();
+  SetTabOrder();
+  resize(kDefaultWindow);
   connect(panel_, &ControlPanel::ButtonClicked, this, &TesselWindow::Press);
   connect(panel_, &ControlPanel::BoxClicked, this, [this](CheckBox box) {
     logic_->Toggle(box);
     changedControls_ = true;  // the box toggled itself, whatever the logic made of it
     Sync();
   });
-  connect(panel_, &ControlPanel::HelpClicked, this, &TesselWindow::OpenHelp);
-  connect(panel_, &ControlPanel::RoomChanged, this, &TesselWindow::ArrangePanel);
+  connect(panel_, &ControlPanel::HelpClicked, this, [this] { helpActions_->OpenHelp(); });
+  connect(panel_, &ControlPanel::RoomChanged, this, [this] { layout_.Arrange(); });
   connect(panel_, &ControlPanel::DigitChosen, board_, &BoardWidget::RingDigit);
   connect(board_, &BoardWidget::CellReleased, this,
           [this](int cell, MouseButton button, double x, double y) {
-            logic_->Grid_MouseUp(cell, button, 0, x, y);
+            const bool acted = logic_->Grid_MouseUp(cell, button, 0, x, y);
+            if (!acted && button == MouseButton::kLeft && IsBoardOpen(logic_->form()))
+              board_->Refuse();
             Sync();
           });
+  connect(grade_, &PuzzleGrade::Known, this, &TesselWindow::ShowFootLine);
 }
 
-void TesselWindow::BuildLayout() {
-  auto* column = new QVBoxLayout(this);
-  column->setMenuBar(menu_);
-  boardAndPanel_ = new QBoxLayout(QBoxLayout::LeftToRight);
-  boardAndPanel_->addWidget(board_, 1);
-  boardAndPanel_->addWidget(panel_);
-  column->addLayout(boardAndPanel_, 1);
-  column->addWidget(notice_);
+void TesselWindow::SetTabOrder() {
   const QList<QWidget*> order = panel_->GenerationControls() << board_ << panel_->SolveControls();
   for (qsizetype i = 1; i < order.size(); ++i) setTabOrder(order[i - 1], order[i]);
-  resize(kDefaultWindow);
 }
 
 void TesselWindow::Attach(Tessel_Main& logic) {
@@ -86,15 +78,16 @@ void TesselWindow::BuildMenus() {
   menu_->Connect(
       Entry::kExit, [this] { panel_->Of(Button::CommandExit)->click(); },
       [this] { return logic_->AcceptsInput(Button::CommandExit); });
-  menu_->Connect(Entry::kHelp, [this] { OpenHelp(); });
   ConnectViewMenu(*menu_, {*this, *board_, *panel_, logic_->form(), preferences_, sounds_});
   gameActions_.emplace(*menu_, *panel_, *logic_, [this] { Sync(); });
   puzzleActions_.emplace(
       *menu_, *this, *logic_, [this] { Sync(); },
       [this] { panel_->Of(Button::CommandSolve)->click(); });
+  helpActions_.emplace(*menu_, *this, *logic_);
 }
 
 void TesselWindow::Show() {
+  FitOnScreen(*this);
   show();
 }
 
@@ -103,14 +96,22 @@ std::int32_t TesselWindow::WindowHandle() {
 }
 
 void TesselWindow::PumpEvents() {
-  const bool drawn = changedCells_.any() && logic_->form().Checked(CheckBox::CheckVisualize);
-  if (drawn) pump_.WantFrame();
-  if (!pump_.Due()) return;
-  const auto frameEnd = EventPump::Clock::now() + kFrameTime;
-  Sync();
-  QCoreApplication::processEvents();
-  if (drawn) std::this_thread::sleep_until(frameEnd);
-  pump_.Done();
+  if (changedCells_.any() && Visualises()) return ShowStep();
+  if (pump_.Due()) PumpEventsNow();
+}
+
+bool TesselWindow::Visualises() const {
+  return logic_->form().Running() && logic_->form().Checked(CheckBox::CheckVisualize);
+}
+
+// Goes on answering, so that Stop ends the show at once.
+void TesselWindow::ShowStep() {
+  const auto goesOn = [this] {
+    QCoreApplication::processEvents();
+    return Visualises() && !logic_->state().StopRequested;
+  };
+  show_.Step(
+      PaceOf(*logic_->form().Running()), [this] { PumpEventsNow(); }, goesOn);
 }
 
 void TesselWindow::PumpEventsNow() {
@@ -169,31 +170,43 @@ void TesselWindow::Sync() {
   board_->UpdateTarget();
   panel_->CountDigits(logic_->form());
   menu_->Update();
+  ShowFootLine();
 }
 
-// A disabled control hands the focus on: to the running command's "Stop", or to the board. Qt would
-// give it to a neighbour that the player did not choose.
+void TesselWindow::ShowFootLine() {
+  const Form& form = logic_->form();
+  const bool settled = HasPuzzle(form) && !form.Running();
+  if (settled) grade_->Follow(logic_->state().SavedPuzzle);
+  foot_->Show(StatusLineOf(form, logic_->state(), grade_->Level()));
+  board_->ShowFinished(ShowsFullBoard(form, logic_->state()));
+}
+
+// A disabled or hidden control hands the focus on: to the running command's "Stop", or to the
+// board. Qt would give it to a neighbour that the player did not choose, and where a question has
+// just been answered only later, when the window becomes active again.
 void TesselWindow::SyncControls() {
   const Form& form = logic_->form();
   QWidget* const focused = focusWidget();
   panel_->Show(form);
-  if (focused != nullptr && focused != focusWidget()) {
+  const bool lost = focused != nullptr && !(focused->isVisible() && focused->isEnabled());
+  if (lost || (focused != nullptr && focused != focusWidget())) {
     QWidget* const stop = form.Running() ? panel_->Of(*form.Running()) : nullptr;
     (stop != nullptr && stop->isEnabled() ? stop : board_)->setFocus(Qt::TabFocusReason);
   }
   board_->update();  // its outlines tell whether clicks act
   setWindowTitle(QString::fromStdString(form.Caption()));
-  notice_->setText(QString::fromStdString(form.Notice()));
-  notice_->setToolTip(notice_->text());
 }
 
 void TesselWindow::Press(Button button) {
+  if (lateStops_.Ignores(button)) return;
   QPushButton* const pressed = panel_->Of(button);
   const bool hadFocus = pressed->hasFocus();
   const bool starts = TraitsOf(button).isLongWork && !logic_->form().Running();
   if (starts) pump_.Done();  // the press itself was delivered just now
+  if (starts) show_.Begin();
   const bool wasSolving = logic_->form().SolveButtonsVisible();
   logic_->Click(button);
+  if (starts && CanBeStopped(button)) lateStops_.ReadStop(button);
   changedControls_ = true;
   Sync();
   if (hadFocus && board_->hasFocus() && pressed->isEnabled() && pressed->isVisible()) {
@@ -220,33 +233,8 @@ void TesselWindow::keyPressEvent(QKeyEvent* event) {
 }
 
 void TesselWindow::resizeEvent(QResizeEvent* event) {
-  ArrangePanel();
+  layout_.Arrange();
   QWidget::resizeEvent(event);
-}
-
-// Whichever arrangement leaves the larger board.
-void TesselWindow::ArrangePanel() {
-  using Arrangement = ControlPanel::Arrangement;
-  const QSize room = size() - QSize(0, menu_->sizeHint().height());
-  const QSize beside = room - QSize(panel_->SizeFor(Arrangement::kBeside).width(), 0);
-  const QSize below = room - QSize(0, panel_->SizeFor(Arrangement::kBelow).height());
-  const bool isBeside =
-      std::min(beside.width(), beside.height()) >= std::min(below.width(), below.height());
-  panel_->Arrange(isBeside ? Arrangement::kBeside : Arrangement::kBelow);
-  boardAndPanel_->setDirection(isBeside ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
-  const int margin = isBeside ? kWideMargin : kTightMargin;
-  layout()->setContentsMargins(margin, margin, margin, margin);
-  layout()->setSpacing(margin);
-  boardAndPanel_->setSpacing(margin);
-  const int lines = width() < kWidthForNotice ? 2 : 1;
-  notice_->setFixedHeight(lines * notice_->fontMetrics().lineSpacing());
-}
-
-void TesselWindow::OpenHelp() {
-  if (help_ == nullptr) help_ = new HelpDialog(this);
-  help_->show();
-  help_->raise();
-  help_->activateWindow();
 }
 
 }  // namespace tessel

@@ -9,25 +9,26 @@
 #include "shell/qt/board_widget.h"
 #include "shell/qt/control_panel.h"
 #include "shell/qt/event_pump.h"
+#include "shell/qt/foot_line.h"
 #include "shell/qt/game_actions.h"
+#include "shell/qt/help_actions.h"
 #include "shell/qt/menu_bar.h"
 #include "shell/qt/preferences.h"
 #include "shell/qt/puzzle_actions.h"
+#include "shell/qt/puzzle_grade.h"
 #include "shell/qt/sound_switch.h"
+#include "shell/qt/window_layout.h"
+#include "shell/qt/work_show.h"
 #include "shell/tessel_main.h"
 
-class QBoxLayout;
-
 namespace tessel {
-
-class HelpDialog;
 
 class TesselWindow final : public QWidget, public View {
   Q_OBJECT
 
  public:
   // What the player chooses is kept in that file, or nowhere.
-  explicit TesselWindow(const QString& preferencesFile = {});
+  explicit TesselWindow(const QString& preferencesFile = {}, FrameClock& clock = RealFrameClock());
 
   // Before Attach: what the entry Sounds switches.
   void SwitchSounds(SoundSwitch& sounds) { sounds_ = &sounds; }
@@ -49,13 +50,14 @@ class TesselWindow final : public QWidget, public View {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  void BuildLayout();
+  void SetTabOrder();
   void BuildMenus();
   void Press(Button button);
+  bool Visualises() const;
+  void ShowStep();
   void Sync();
   void SyncControls();
-  void ArrangePanel();
-  void OpenHelp();
+  void ShowFootLine();
 
   Preferences preferences_;
   SoundSwitch* sounds_ = nullptr;
@@ -63,11 +65,11 @@ class TesselWindow final : public QWidget, public View {
   MenuBar* menu_;
   BoardWidget* board_;
   ControlPanel* panel_;
-  QLabel* notice_;
-  QBoxLayout* boardAndPanel_ = nullptr;
-  HelpDialog* help_ = nullptr;
+  FootLine* foot_;
+  PuzzleGrade* grade_;
   std::optional<GameActions> gameActions_;
   std::optional<PuzzleActions> puzzleActions_;
+  std::optional<HelpActions> helpActions_;
 
   // What has changed in the form since the last Sync.
   std::bitset<kCellCount> changedCells_;
@@ -75,6 +77,9 @@ class TesselWindow final : public QWidget, public View {
   bool changedControls_ = false;
 
   EventPump pump_;
+  WindowLayout layout_;
+  WorkShow show_;
+  LateStops lateStops_;
 };
 
 }  // namespace tessel

@@ -1,6 +1,8 @@
 // From an empty board to a saved puzzle, by mouse, in the real window.
 #include <gtest/gtest.h>
 
+#include <thread>
+
 #include "tests/e2e/puzzle_file_reading.h"
 #include "tests/e2e/user.h"
 
@@ -56,6 +58,8 @@ TEST(Generation, EveryConcealAppendsARecord) {
   User user(folder.Path());
   ASSERT_TRUE(user.MakesPuzzle());
   const std::string first = BytesOf(folder.PuzzleFile());
+  std::this_thread::sleep_for(
+      std::chrono::milliseconds(500));  // a press sooner would count as a "Stop" that came too late
   ASSERT_TRUE(user.RunsCommand(kConceal));
   const std::string both = BytesOf(folder.PuzzleFile());
   ASSERT_EQ(both.size(), 2 * sizeof(PuzzleRecord));

@@ -54,7 +54,7 @@ class BadSurroundings : public testing::Test {
     EXPECT_FALSE(user.Program().Asks());
     user.Press("CommandSolve");
     EXPECT_TRUE(user.SeesSolveButtons(true));
-    EXPECT_TRUE(user.SeesText("Notice", ""));
+    EXPECT_TRUE(user.SeesNews(std::string(60, ' ')));
   }
 
   TemporaryFolder folder_;
@@ -86,7 +86,7 @@ TEST_F(BadSurroundings, FolderIsReadOnlyButTheUserHasOne) {
   launch.environment.insert("HOME", QString::fromStdString(home.Path().string()));
   User user(folder_.Path(), launch);
   ASSERT_TRUE(user.MakesPuzzle());
-  EXPECT_TRUE(user.SeesText("Notice", ""));
+  EXPECT_TRUE(user.SeesNews("Saved as puzzle 1 in"));
   const std::filesystem::path data = home.Path() / ".local/share/tessel-sudoku";
   EXPECT_EQ(std::filesystem::status(data).permissions(), std::filesystem::perms::owner_all);
   EXPECT_EQ(std::filesystem::file_size(data / "Tessel_Sudoku.sds"), kRecordSize);
@@ -157,7 +157,7 @@ TEST_F(BadSurroundings, FolderIsNotNamedInUtf8) {
   User user(link, launch);
   EXPECT_TRUE(user.MakesPuzzle());
   EXPECT_TRUE(user.SeesStage(Stage::kPuzzleConcealed));
-  EXPECT_TRUE(user.SeesText("Notice", ""));
+  EXPECT_TRUE(user.SeesNews("Saved as puzzle 1 in"));
   EXPECT_TRUE(IsSoundPuzzle(OnlyRecord(folder / "Tessel_Sudoku.sds")));
   EXPECT_FALSE(std::filesystem::exists(folder_.PuzzleFile()));
 }

@@ -163,15 +163,28 @@ testing::AssertionResult User::SeesButton(const char* button, const char* captio
 
 bool User::LooksEnabled(const char* button, const char* caption) {
   const QImage seen = LooksAt(twin_.AreaOf(button));
-  return Distance(seen, twin_.Button(button, caption, true)) <
-         Distance(seen, twin_.Button(button, caption, false));
+  const long toEnabled =
+      std::min(Distance(seen, twin_.Button(button, caption, true)),
+               Distance(seen, twin_.Button(button, caption, true, Accent::kNext)));
+  return toEnabled < Distance(seen, twin_.Button(button, caption, false));
 }
 
 bool User::LooksAsIfFilling() {
   const QImage seen = LooksAt(twin_.AreaOf("CommandGo"));
   const long distance = Distance(seen, twin_.RunningButton(Button::CommandGo, "Stop"));
   return distance < Distance(seen, twin_.RunningButton(Button::CommandGo, "Fill")) &&
-         distance < Distance(seen, twin_.Button("CommandGo", "Fill", true));
+         distance < Distance(seen, twin_.Button("CommandGo", "Fill", true)) &&
+         distance < Distance(seen, twin_.Button("CommandGo", "Fill", true, Accent::kNext));
+}
+
+testing::AssertionResult User::SeesNews(const std::string& text) {
+  const QImage expected = twin_.LeftText("Notice", text);
+  QImage seen;
+  const auto readsSo = [&] {
+    seen = LooksAt({twin_.AreaOf("Notice").topLeft(), expected.size()});
+    return seen == expected;
+  };
+  return Eventually(readsSo) ? testing::AssertionSuccess() : Differs(expected, seen);
 }
 
 testing::AssertionResult User::SeesText(const char* label, const std::string& text) {

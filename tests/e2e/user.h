@@ -60,6 +60,8 @@ class User {
   testing::AssertionResult SeesTime(const std::string& done) const;
   testing::AssertionResult SeesStage(Stage stage);
   testing::AssertionResult SeesButton(const char* button, const char* caption, bool enabled);
+  // At the left of the foot line, whatever stands behind it.
+  testing::AssertionResult SeesNews(const std::string& text);
   testing::AssertionResult SeesText(const char* label, const std::string& text);
   testing::AssertionResult SeesSolveButtons(bool visible) const;
   testing::AssertionResult SeesBoard(const ExpectedBoard& board) const;

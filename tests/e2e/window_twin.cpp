@@ -14,6 +14,13 @@ QImage Plain(const QPixmap& pixmap) {
   return pixmap.toImage().convertToFormat(QImage::Format_RGB32);
 }
 
+bool IsFullBoardOfAGame(const Form& form) {
+  for (int cell = 0; cell < kCellCount; ++cell) {
+    if (form.Cell(cell).text == 0) return false;
+  }
+  return form.SolveButtonsVisible();
+}
+
 }  // namespace
 
 WindowTwin::WindowTwin(QSize size)
@@ -70,7 +77,7 @@ QRect WindowTwin::EntryArea(Entry entry) const {
 }
 
 QString WindowTwin::ShortcutOf(const char* control) const {
-  return Find<QWidget>(control).toolTip().section('\n', -1);
+  return Find<QWidget>(control).whatsThis().section('\n', -1);
 }
 
 QImage WindowTwin::Board(const ExpectedBoard& board, const BoardHighlights& highlights,
@@ -81,12 +88,17 @@ QImage WindowTwin::Board(const ExpectedBoard& board, const BoardHighlights& high
   const BoardGeometry geometry = BoardOf().Geometry();
   BoardPainter painted(board.form(), board.state(), geometry, BoardOf().font());
   painted.SetCageColours(colours);
-  painted.Paint(painter, image.rect(), highlights);
+  BoardHighlights shown = highlights;
+  if (IsFullBoardOfAGame(board.form())) {
+    shown.frame = BoardOf().palette().color(QPalette::Highlight);
+  }
+  painted.Paint(painter, image.rect(), shown);
   return image;
 }
 
-QImage WindowTwin::Button(const char* button, const char* caption, bool enabled) {
+QImage WindowTwin::Button(const char* button, const char* caption, bool enabled, Accent accent) {
   auto& widget = Find<QPushButton>(button);
+  widget.setPalette(AccentPalette(accent, window_.palette()));
   widget.setText(caption);
   widget.setEnabled(enabled);
   return Plain(widget.grab());
@@ -104,6 +116,13 @@ QImage WindowTwin::RunningButton(tessel::Button button, const char* caption) {
   form.SetRunning(std::nullopt);
   panel.Show(form);
   return picture;
+}
+
+QImage WindowTwin::LeftText(const char* label, const std::string& text) {
+  const int width =
+      Find<QLabel>(label).fontMetrics().horizontalAdvance(QString::fromStdString(text));
+  const QImage whole = Text(label, text);
+  return whole.copy(0, 0, width, whole.height());
 }
 
 // Put back at once, before the layout hears of it: no text may move anything else in the window.

@@ -38,10 +38,13 @@ class WindowTwin {
   // The board as it must look.
   QImage Board(const ExpectedBoard& board, const BoardHighlights& highlights,
                const CageColours& colours = kCageColours) const;
-  QImage Button(const char* button, const char* caption, bool enabled);
+  QImage Button(const char* button, const char* caption, bool enabled,
+                Accent accent = Accent::kNone);
   // The button of a command that runs.
   QImage RunningButton(tessel::Button button, const char* caption);
   QImage Text(const char* label, const std::string& text);
+  // As far as the text reaches.
+  QImage LeftText(const char* label, const std::string& text);
 
  private:
   BoardWidget& BoardOf() const;

@@ -5,16 +5,8 @@
 namespace tessel {
 namespace {
 
-TEST(EventPump, FrameIsDueAtOnce) {
-  EventPump pump;
-  pump.WantFrame();
-  EXPECT_TRUE(pump.Due());
-  EXPECT_TRUE(pump.Due()) << "until it was delivered";
-}
-
 TEST(EventPump, NothingIsDueRightAfterARound) {
   EventPump pump;
-  pump.WantFrame();
   pump.Done();
   for (int i = 0; i < 31; ++i) EXPECT_FALSE(pump.Due());
 }

@@ -1,9 +1,17 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QTemporaryFile>
 
+// The offscreen display is smaller than some of the windows, unless it is told otherwise.
 int main(int argc, char** argv) {
-  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  QTemporaryFile display;
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && display.open()) {
+    display.write(R"({"screens": [{"name": "large", "x": 0, "y": 0, "width": 4000, "height": 3000,
+                      "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
+    display.flush();
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + display.fileName().toUtf8());
+  }
   testing::InitGoogleTest(&argc, argv);
   QApplication application(argc, argv);
   return RUN_ALL_TESTS();

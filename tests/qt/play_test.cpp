@@ -1,6 +1,8 @@
 // Playing in the real window.
 #include <gtest/gtest.h>
 
+#include <QKeyEvent>
+
 #include "tests/qt/window_program.h"
 
 namespace tessel {
@@ -124,6 +126,28 @@ TEST(Play, SolutionDisablesHintAndSolutionUntilRestart) {
   program.Click("CommandRestart");
   EXPECT_TRUE(program.Push("CommandHint")->isEnabled());
   EXPECT_TRUE(program.Push("CommandSolution")->isEnabled());
+}
+
+// A French keyboard gives other signs without Shift and the digits with it.
+TEST(Play, DigitRowCountsByItsPlace) {
+  WindowProgram program;
+  program.OpenPuzzle();
+  const int cell = program.FirstEmptyCell();
+  program.Board()->FocusCell(cell);
+  const int digit = program.SolutionAt(cell);
+  const auto press = [&](int key, int place, Qt::KeyboardModifiers modifiers) {
+    QKeyEvent event(QEvent::KeyPress, key, modifiers, static_cast<quint32>(place), 0, 0);
+    QCoreApplication::sendEvent(program.Board(), &event);
+  };
+  press(Qt::Key_Ampersand, 9 + digit, Qt::ShiftModifier);  // an American sign
+  press(Qt::Key_Agrave, 19, Qt::NoModifier);               // the place of 0
+  press(Qt::Key_Q, 24, Qt::NoModifier);
+  EXPECT_EQ(program.form().Cell(cell).text, 0);
+  press(Qt::Key_Ampersand, 9 + digit, Qt::ControlModifier);
+  EXPECT_FALSE(program.form().Mark(cell, digit).visible);
+  press(Qt::Key_Ampersand, 9 + digit, Qt::ControlModifier);
+  press(Qt::Key_Ampersand, 9 + digit, Qt::NoModifier);
+  EXPECT_EQ(program.form().Cell(cell).text, digit);
 }
 
 }  // namespace

@@ -36,9 +36,9 @@ class Photographer {
  public:
   Photographer(QDir folder, QString theme, QSize size)
       : folder_(std::move(folder)), theme_(std::move(theme)) {
-    window_.resize(size);
     window_.Attach(main_);
     main_.Form_Load();
+    window_.resize(size);  // the offscreen display may be smaller
   }
 
   void TakeAll() {

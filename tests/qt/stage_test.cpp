@@ -101,8 +101,8 @@ TEST(Stage, RunningCommandIsMarked) {
   QColor running = idle;
   InTheMiddle(program, [&] { running = colour(); });
   program.Click("CommandSaw");
-  EXPECT_NE(running, idle);
-  EXPECT_EQ(colour(), idle);
+  EXPECT_NE(running, idle) << "the colour of the next step";
+  EXPECT_NE(running, colour());
 }
 
 TEST(Stage, WindowStaysOpenWhileACommandRuns) {

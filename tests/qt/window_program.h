@@ -13,6 +13,7 @@
 #include "core/random_source.h"
 #include "shell/qt/tessel_window.h"
 #include "tests/fakes/fake_clock.h"
+#include "tests/fakes/fake_frame_clock.h"
 #include "tests/fakes/fake_sound_player.h"
 #include "tests/fakes/state_probe.h"
 #include "tests/fakes/temporary_folder.h"
@@ -22,7 +23,7 @@ namespace tessel {
 struct WindowProgram {
   explicit WindowProgram(QSize size = {}, std::uint64_t firstSeed = 1,
                          const QString& preferencesFile = {})
-      : clock(firstSeed), window(preferencesFile) {
+      : clock(firstSeed), window(preferencesFile, frameClock) {
     if (size.isValid()) window.resize(size);
     window.SwitchSounds(sounds);
     window.Attach(main);
@@ -81,6 +82,7 @@ struct WindowProgram {
   FakeSoundPlayer player;
   SoundSwitch sounds{player};
   SeededRandom random;
+  FakeFrameClock frameClock;
   TesselWindow window;
   Tessel_Main main{window, sounds, clock, random, folder.Path().string()};
 };

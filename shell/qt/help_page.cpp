@@ -1,8 +1,4 @@
-#include "shell/qt/help_dialog.h"
-
-#include <QDialogButtonBox>
-#include <QTextBrowser>
-#include <QVBoxLayout>
+#include "shell/qt/help_page.h"
 
 #include "core/version.h"
 
@@ -17,11 +13,13 @@ constexpr char kPage[] = R"(
 that look the same after half a turn, or <i>Make regular Sudoku</i> for the nine 3×3 boxes.</li>
 <li><b>Fill</b> finds a solution: every digit once in each row, column and cage.</li>
 <li><b>Conceal</b> hides cells as long as one solution remains, in facing pairs with <i>Conceal 180°
-Rotational</i>, and saves the puzzle beside the program.</li>
+Rotational</i>, and saves the puzzle; the foot of the window says where.</li>
 <li><b>Solve</b> lets you play it.</li>
 </ol>
-<p><i>Visualize progress</i> shows the work step by step. The button of a running Fill or Conceal
-reads <b>Stop</b>.</p>
+<p><i>Visualize progress</i> shows the work step by step, in two seconds or some more. The button of a
+running Fill or Conceal reads <b>Stop</b>, and once it has, it takes no press for a moment: a Stop that
+comes too late does not begin the work again. The button in colour is the next step.</p>
+<p>All of this works while a game is open. The game goes on until <b>Solve</b> opens the new puzzle.</p>
 <h2>Play</h2>
 <p>An empty cell shows its marks, the digits that are still possible, like a keypad: 1 2 3 above,
 7 8 9 below. Where you click in the cell chooses the digit.</p>
@@ -34,10 +32,13 @@ reads <b>Stop</b>.</p>
 <tr><td>empty the cell, show all nine marks</td><td>middle click</td><td>Insert</td></tr>
 </table>
 <p>The number pad works too; its 0 is Insert and its point is Delete. What counts is where you let
-go of the mouse button: drag off the board to take a click back. Tab moves between the controls;
-every button and box names its shortcut in its tooltip.</p>
+go of the mouse button: drag off the board to take a click back. The digits of the row above
+the letters work wherever the layout has them. Where a digit is refused, the ring round the cell
+flashes. Tab moves between the controls; Shift+F1 tells the key of the one that has the focus, and
+<i>Help &gt; Keys</i> all of them.</p>
 <p><b>Hint</b> names the next logical step and marks its rows and columns red, with an arrow. It never
-changes the board. <b>Restart</b> begins the puzzle again, <b>Solution</b> shows it solved.</p>
+changes the board. <i>Help &gt; Techniques</i> shows what each hint means. The hint's text can be
+selected and copied. <b>Restart</b> begins the puzzle again, <b>Solution</b> shows it solved.</p>
 <h2>Puzzles in and out</h2>
 <p><b>New</b> (Ctrl+N, Enter) makes a puzzle of the wished cages and level, ready to play. <b>Open</b>
 (Ctrl+O) and <b>Paste</b> (Ctrl+V) take text lines, links of SudokuPad and f-puzzles, game IDs of Solo
@@ -50,7 +51,8 @@ Way</b> writes down how it is solved, step by step.</p>
 <li>Only a digit whose mark is shown can be placed. Placing it removes it from the marks of its row,
 column and cage; taking it out again does <b>not</b> give them back. Add a mark with the right button,
 or all nine with the middle one.</li>
-<li>A full board is applauded, <b>right or wrong</b>, and then closed. Only Restart opens it again.</li>
+<li>A full board is applauded and framed, <b>right or wrong</b>, and then closed. Only Restart opens it
+again.</li>
 <li>With <i>Update Pencilmarks</i> unticked every empty cell shows all nine marks, any digit can be
 placed, and the right button only takes digits out. The hints then come from the marks as they were
 kept until now.</li>
@@ -59,19 +61,8 @@ kept until now.</li>
 
 }  // namespace
 
-HelpDialog::HelpDialog(QWidget* parent) : QDialog(parent) {
-  setObjectName("HelpDialog");
-  setWindowTitle("Tessel Sudoku - Help");
-  auto* page = new QTextBrowser(this);
-  page->setObjectName("HelpPage");
-  page->setAccessibleName("Help");
-  page->setHtml(QString::fromUtf8(kPage) + QString("<p>Version %1</p>").arg(Version()));
-  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
-  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-  auto* column = new QVBoxLayout(this);
-  column->addWidget(page);
-  column->addWidget(buttons);
-  resize(700, 720);
+QString HelpPage() {
+  return QString::fromUtf8(kPage) + QString("<p>Version %1</p>").arg(Version());
 }
 
 }  // namespace tessel
