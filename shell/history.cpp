@@ -30,6 +30,12 @@ Difference DifferenceTo(const Position& to, const Position& from) {
   return difference;
 }
 
+Difference WholeOf(const Position& position) {
+  Difference whole{{}, position.PencilmarkMode};
+  for (int cell = 0; cell < kCellCount; ++cell) whole.cells.push_back(CellOf(position, cell));
+  return whole;
+}
+
 Position With(const Difference& difference, const Position& from) {
   Position position = from;
   position.PencilmarkMode = difference.mode;

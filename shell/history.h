@@ -30,6 +30,8 @@ struct Difference {
 
 // What `to` has. Both must be positions of one puzzle.
 Difference DifferenceTo(const Position& to, const Position& from);
+// Every cell of the position.
+Difference WholeOf(const Position& position);
 // The position that has what the difference tells and is `from` elsewhere.
 Position With(const Difference& difference, const Position& from);
 

@@ -1,6 +1,8 @@
 #include "shell/solving_mode.h"
 
+#include <algorithm>
 #include <optional>
+#include <utility>
 
 #include "core/texts.h"
 #include "shell/board_clicks.h"
@@ -12,12 +14,11 @@ void SolvingMode::CommandSolve_Click() {
   form_.SetCaption(texts::kProgram);
   form_.SetNotice("");
   form_.SetNews("");
-  const bool isOpen = form_.SolveButtonsVisible();
+  if (!form_.SolveButtonsVisible()) opened_ = {};
   form_.ShowSolveButtons(true);
   form_.Enable(Button::CommandHint, true);
   form_.Enable(Button::CommandSolution, true);
   CommandRestart_Click();
-  if (!isOpen) EndHistory();
 }
 
 bool SolvingMode::Grid_MouseUp(int cell, MouseButton button, CellPosition at) {
@@ -58,6 +59,39 @@ void SolvingMode::OpenBoard(bool open) {
   state_.Finished = !open;
   form_.Enable(Button::CommandSolution, open);
   form_.Enable(Button::CommandHint, open);
+  Keep();
+}
+
+bool SolvingMode::IsOpenedPuzzle() const {
+  return form_.SolveButtonsVisible() && state_.SavedPuzzle == opened_ &&
+         std::ranges::equal(state_.CageOfCell, opened_.CageMap);
+}
+
+void SolvingMode::EndHistory() {
+  history_.Clear();
+  isKept_ = false;
+}
+
+// A game of which nothing was played leaves the one before it to be continued. A finished one is
+// over, until its end is undone.
+void SolvingMode::Keep() {
+  if (!CanUndo() && !CanRedo()) return;
+  if (IsFull(state_)) {
+    if (std::exchange(isKept_, false)) keeper_.Forget();
+    return;
+  }
+  const auto error = keeper_.Keep(opened_, state_, history_);
+  isKept_ = !error;
+  if (error && !std::exchange(toldOfFailure_, true)) form_.SetNotice(*error);
+}
+
+void SolvingMode::Continue(const KeptGame& game) {
+  form_.ShowSolveButtons(true);
+  form_.SetTextHint(texts::kPressHint);
+  opened_ = game.puzzle;
+  history_ = game.history;
+  isKept_ = true;
+  Show(game.position);
 }
 
 void SolvingMode::CommandRestart_Click() {
@@ -91,7 +125,6 @@ void SolvingMode::Leave() {
   form_.SetAllCaptions(kBlack);
   form_.SetNews("");
   form_.ShowSolveButtons(false);
-  EndHistory();
 }
 
 // The marks stay where they are and vanish in the colour of their ground.
@@ -110,6 +143,7 @@ void SolvingMode::CheckPencilmarks_Click() {
   history_.Record(state_, next);
   state_.PencilmarkMode = mode;
   RefreshPencilmarks();
+  Keep();
 }
 
 // The generation may have hidden the marks, or shown other digits, since the position was left.

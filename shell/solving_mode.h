@@ -7,6 +7,7 @@
 #include "core/form.h"
 #include "core/game_state.h"
 #include "core/sounds.h"
+#include "shell/game_keeper.h"
 #include "shell/history.h"
 #include "shell/solving_game.h"
 
@@ -14,8 +15,8 @@ namespace tessel {
 
 class SolvingMode {
  public:
-  SolvingMode(GameState& state, Form& form, Sounds& sounds)
-      : state_(state), form_(form), sounds_(sounds) {}
+  SolvingMode(GameState& state, Form& form, Sounds& sounds, GameKeeper& keeper)
+      : state_(state), form_(form), sounds_(sounds), keeper_(keeper) {}
 
   void CommandSolve_Click();
   void CommandRestart_Click();
@@ -33,15 +34,19 @@ class SolvingMode {
   void Undo() { Show(history_.Undo(state_)); }
   void Redo() { Show(history_.Redo(state_)); }
   // What comes is no longer this game.
-  void EndHistory() { history_.Clear(); }
+  void EndHistory();
+
+  // Whether the game on the board is that of the game file.
+  bool IsKept() const { return IsOpenedPuzzle() && isKept_; }
+  // Opens the solving mode with that game, whose puzzle must be the saved one.
+  void Continue(const KeptGame& game);
 
  private:
   void Make(const Move& move);
   void Show(const std::optional<Position>& position);
-  // Whether the game is still that of the puzzle which Solve and Restart open.
-  bool IsOpenedPuzzle() const {
-    return form_.SolveButtonsVisible() && state_.SavedPuzzle == opened_;
-  }
+  void Keep();
+  // Whether the game is still that of the puzzle which Solve and Restart open, in its layout.
+  bool IsOpenedPuzzle() const;
   void RefreshPencilmarks();
   void EndAssignment();
   void OpenBoard(bool open);
@@ -51,6 +56,9 @@ class SolvingMode {
   GameState& state_;
   Form& form_;
   Sounds& sounds_;
+  GameKeeper& keeper_;
+  bool isKept_ = false;  // the game file holds this game
+  bool toldOfFailure_ = false;
   PuzzleRecord opened_;  // the puzzle that the history's positions were played from
   History history_;
 };

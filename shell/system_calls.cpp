@@ -4,6 +4,7 @@
 #include <sys/file.h>
 #include <unistd.h>
 
+#include <cstdio>
 #include <system_error>
 #include <thread>
 
@@ -33,6 +34,10 @@ int PosixCalls::Stat(const char* path, struct stat* status) {
   return stat(path, status);
 }
 
+ssize_t PosixCalls::Pread(int file, void* bytes, std::size_t count, off_t offset) {
+  return pread(file, bytes, count, offset);
+}
+
 ssize_t PosixCalls::Pwrite(int file, const void* bytes, std::size_t count, off_t offset) {
   return pwrite(file, bytes, count, offset);
 }
@@ -47,6 +52,14 @@ int PosixCalls::Fsync(int file) {
 
 int PosixCalls::Close(int file) {
   return close(file);
+}
+
+int PosixCalls::Rename(const char* from, const char* to) {
+  return rename(from, to);
+}
+
+int PosixCalls::Unlink(const char* path) {
+  return unlink(path);
 }
 
 void PosixCalls::Sleep(std::chrono::microseconds time) {

@@ -1,4 +1,4 @@
-// The system calls that a save makes, as a seam for tests that let them fail.
+// The system calls on files that are saved, as a seam for tests that let them fail.
 #pragma once
 
 #include <sys/stat.h>
@@ -22,10 +22,13 @@ class SystemCalls {
   virtual int Flock(int file, int operation) = 0;
   virtual int Fstat(int file, struct stat* status) = 0;
   virtual int Stat(const char* path, struct stat* status) = 0;
+  virtual ssize_t Pread(int file, void* bytes, std::size_t count, off_t offset) = 0;
   virtual ssize_t Pwrite(int file, const void* bytes, std::size_t count, off_t offset) = 0;
   virtual int Ftruncate(int file, off_t length) = 0;
   virtual int Fsync(int file) = 0;
   virtual int Close(int file) = 0;
+  virtual int Rename(const char* from, const char* to) = 0;
+  virtual int Unlink(const char* path) = 0;
 
   virtual void Sleep(std::chrono::microseconds time) = 0;
   // A clock that only goes forward, from an arbitrary start.
@@ -42,10 +45,13 @@ class PosixCalls : public SystemCalls {
   int Flock(int file, int operation) override;
   int Fstat(int file, struct stat* status) override;
   int Stat(const char* path, struct stat* status) override;
+  ssize_t Pread(int file, void* bytes, std::size_t count, off_t offset) override;
   ssize_t Pwrite(int file, const void* bytes, std::size_t count, off_t offset) override;
   int Ftruncate(int file, off_t length) override;
   int Fsync(int file) override;
   int Close(int file) override;
+  int Rename(const char* from, const char* to) override;
+  int Unlink(const char* path) override;
   void Sleep(std::chrono::microseconds time) override;
   std::int64_t Milliseconds() override;
   void Start(std::function<void()> work) override;

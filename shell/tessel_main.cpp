@@ -18,8 +18,9 @@ Tessel_Main::Tessel_Main(View& view, SoundPlayer& player, Clock& clock, RandomSo
       random_(random),
       form_(view),
       sounds_(state_, player),
-      generation_(state_, form_, view, clock, random, system, std::move(userFolder)),
-      solving_(state_, form_, sounds_) {
+      generation_(state_, form_, view, clock, random, system, userFolder),
+      keeper_(state_.ProgramPath, std::move(userFolder), system),
+      solving_(state_, form_, sounds_, keeper_) {
   state_.ProgramPath = std::move(programFolder);
 }
 
@@ -117,6 +118,16 @@ void Tessel_Main::Undo() {
 
 void Tessel_Main::Redo() {
   if (CanRedo()) solving_.Redo();
+}
+
+void Tessel_Main::ContinueLastGame() {
+  if (!CanContinue()) return;
+  const auto game = keeper_.Load();
+  if (!game) return form_.SetNotice(game.error());
+  const auto layout = Layout::FromCages(game->puzzle.CageMap, Layout::Shape::kAny);
+  const Puzzle puzzle{layout.value(), game->puzzle.Board, game->puzzle.Solution};
+  if (!OpenPuzzle(puzzle)) return;
+  solving_.Continue(*game);
 }
 
 bool Tessel_Main::AcceptsInput(Button button) const {

@@ -56,6 +56,10 @@ class Tessel_Main {
   bool CanRedo() const { return IsIdle() && solving_.CanRedo(); }
   void Undo();
   void Redo();
+  // The unfinished game that was played last, here or by a program before, unless it is on the
+  // board. A game that is open is left only after the question of Quit.
+  bool CanContinue() const { return IsIdle() && !solving_.IsKept() && keeper_.IsThere(); }
+  void ContinueLastGame();
   // The request to close the window; true when the window may close.
   bool Form_QueryUnload();
 
@@ -86,6 +90,7 @@ class Tessel_Main {
   Form form_;
   Sounds sounds_;
   GenerationCommands generation_;
+  GameKeeper keeper_;
   SolvingMode solving_;
   bool asking_ = false;  // a question is open
 };

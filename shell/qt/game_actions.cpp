@@ -4,13 +4,19 @@
 
 namespace tessel {
 
-GameActions::GameActions(MenuBar& menu, ControlPanel& panel, Tessel_Main& logic,
+GameActions::GameActions(MenuBar& menu, ControlPanel& panel, QWidget& board, Tessel_Main& logic,
                          std::function<void()> sync)
     : menu_(menu) {
   menu.Connect(
       Entry::kUndo, [&logic, sync] { logic.Undo(), sync(); }, [&logic] { return logic.CanUndo(); });
   menu.Connect(
       Entry::kRedo, [&logic, sync] { logic.Redo(), sync(); }, [&logic] { return logic.CanRedo(); });
+  const auto resume = [&logic, &board, sync] {
+    logic.ContinueLastGame();
+    sync();
+    if (logic.form().SolveButtonsVisible()) board.setFocus(Qt::TabFocusReason);
+  };
+  menu.Connect(Entry::kContinue, resume, [&logic] { return logic.CanContinue(); });
   Join(*panel.Undo(), Entry::kUndo);
   Join(*panel.Redo(), Entry::kRedo);
   const auto press = [&](Entry entry, Button button) {

@@ -1,4 +1,5 @@
-// The entries of the Game menu, and the buttons that stand for two of them.
+// The entries of the Game menu, with the buttons that stand for two of them, and the one that
+// continues a game.
 #pragma once
 
 #include <functional>
@@ -12,7 +13,8 @@ namespace tessel {
 class GameActions {
  public:
   // `sync` shows what the logic has changed. All must live as long as the menu bar.
-  GameActions(MenuBar& menu, ControlPanel& panel, Tessel_Main& logic, std::function<void()> sync);
+  GameActions(MenuBar& menu, ControlPanel& panel, QWidget& board, Tessel_Main& logic,
+              std::function<void()> sync);
 
  private:
   // The button triggers the entry, and is enabled while that is.

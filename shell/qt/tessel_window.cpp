@@ -79,7 +79,7 @@ void TesselWindow::BuildMenus() {
       Entry::kExit, [this] { panel_->Of(Button::CommandExit)->click(); },
       [this] { return logic_->AcceptsInput(Button::CommandExit); });
   ConnectViewMenu(*menu_, {*this, *board_, *panel_, logic_->form(), preferences_, sounds_});
-  gameActions_.emplace(*menu_, *panel_, *logic_, [this] { Sync(); });
+  gameActions_.emplace(*menu_, *panel_, *board_, *logic_, [this] { Sync(); });
   puzzleActions_.emplace(
       *menu_, *this, *logic_, [this] { Sync(); },
       [this] { panel_->Of(Button::CommandSolve)->click(); });

@@ -23,7 +23,8 @@ enum class SystemCall : std::uint8_t {
   kPwrite,
   kFtruncate,
   kFsync,
-  kClose
+  kClose,
+  kRename
 };
 
 class FakeSystemCalls : public PosixCalls {
@@ -59,6 +60,9 @@ class FakeSystemCalls : public PosixCalls {
   int Close(int file) override {
     const int closed = PosixCalls::Close(file);
     return Fails(SystemCall::kClose) ? -1 : closed;
+  }
+  int Rename(const char* from, const char* to) override {
+    return Fails(SystemCall::kRename) ? -1 : PosixCalls::Rename(from, to);
   }
   void Sleep(std::chrono::microseconds time) override {
     slept += time;

@@ -17,12 +17,15 @@ class NoDisk final : public SystemCalls {
     return 0;
   }
   int Stat(const char*, struct stat* status) override { return Fstat(0, status); }
+  ssize_t Pread(int, void*, std::size_t, off_t) override { return 0; }
   ssize_t Pwrite(int, const void*, std::size_t count, off_t) override {
     return static_cast<ssize_t>(count);
   }
   int Ftruncate(int, off_t) override { return 0; }
   int Fsync(int) override { return 0; }
   int Close(int) override { return 0; }
+  int Rename(const char*, const char*) override { return 0; }
+  int Unlink(const char*) override { return 0; }
   void Sleep(std::chrono::microseconds) override {}
   std::int64_t Milliseconds() override { return 0; }
   void Start(std::function<void()> work) override { work(); }

@@ -30,7 +30,7 @@ class SolvingTest : public testing::Test {
   static constexpr int kOtherEmpty = 2;
   static_assert(IsKnownGiven(kGiven) && !IsKnownGiven(kEmpty) && !IsKnownGiven(kOtherEmpty));
 
-  SolvingTest() {
+  explicit SolvingTest(SystemCalls& system = UnthreadedCalls::Shared()) : program(1, system) {
     program.Tick(CheckBox::MakeRegular);
     program.MakePuzzle();
     program.Probe().SavedPuzzle = KnownPuzzle();

@@ -1,5 +1,6 @@
 // Undo and redo in a game.
 #include "core/texts.h"
+#include "tests/fakes/no_disk.h"
 #include "tests/shell/solving_test.h"
 
 namespace tessel {
@@ -7,6 +8,8 @@ namespace {
 
 class Undo : public SolvingTest {
  protected:
+  using SolvingTest::SolvingTest;
+
   Position Now() { return state(); }
   void Back() { program.main.Undo(); }
   void Forth() { program.main.Redo(); }
@@ -155,8 +158,16 @@ TEST_F(Undo, NothingHappensWhileACommandRunsOrAQuestionIsOpen) {
   EXPECT_TRUE(CanUndo());
 }
 
+class UndoWithoutDisk : public Undo {
+ protected:
+  UndoWithoutDisk() : Undo(disk_) {}
+
+ private:
+  inline static NoDisk disk_;
+};
+
 // 100,000 events of a player who clicks everywhere.
-TEST_F(Undo, LongSessionIsUndoneToItsFirstPositionAndRedoneToItsLast) {
+TEST_F(UndoWithoutDisk, LongSessionIsUndoneToItsFirstPositionAndRedoneToItsLast) {
   SeededRandom random(4711);
   const auto draw = [&random](int n) { return DrawIndex(random, n); };
   const Position first = Now();
