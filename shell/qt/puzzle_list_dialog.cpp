@@ -78,6 +78,22 @@ PuzzleListDialog::PuzzleListDialog(const QString& title, formats::ByteSource sou
 PuzzleListDialog::~PuzzleListDialog() = default;
 
 void PuzzleListDialog::Build(const QString& where) {
+  BuildList();
+  count_->setObjectName("PuzzleCount");
+  count_->setTextFormat(Qt::PlainText);
+  count_->setWordWrap(true);
+  auto* const top = new QHBoxLayout;
+  top->addWidget(count_, 1);
+  top->addWidget(order_);
+  auto* const column = new QVBoxLayout(this);
+  column->addLayout(top);
+  column->addWidget(list_, 1);
+  column->addLayout(BuildFoot(where));
+  resize(720, 560);
+  list_->setFocus();
+}
+
+void PuzzleListDialog::BuildList() {
   order_->setObjectName("PuzzleOrder");
   order_->setAccessibleName("Order");
   order_->addItems({"Newest first", "Oldest first", "Easiest first", "Hardest first"});
@@ -98,15 +114,14 @@ void PuzzleListDialog::Build(const QString& where) {
   connect(list_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
           &PuzzleListDialog::EnableButtons);
   connect(list_, &QListView::doubleClicked, this, &QDialog::accept);
+}
+
+QLayout* PuzzleListDialog::BuildFoot(const QString& where) {
   auto* const kept = new QLabel(where, this);
   kept->setObjectName("PuzzlePlace");
   kept->setTextFormat(Qt::PlainText);
   kept->setWordWrap(true);
   kept->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  count_->setObjectName("PuzzleCount");
-  count_->setTextFormat(Qt::PlainText);
-  count_->setWordWrap(true);
-
   open_ = AddButton("&Open", "OpenChosen");
   open_->setDefault(true);
   connect(open_, &QPushButton::clicked, this, &QDialog::accept);
@@ -116,19 +131,10 @@ void PuzzleListDialog::Build(const QString& where) {
   connect(export_, &QPushButton::clicked, this, &PuzzleListDialog::ExportWanted);
   auto* const close = AddButton("&Close", "CloseList");
   connect(close, &QPushButton::clicked, this, &QDialog::reject);
-
-  auto* const top = new QHBoxLayout;
-  top->addWidget(count_, 1);
-  top->addWidget(order_);
-  auto* const bottom = new QHBoxLayout;
-  bottom->addWidget(kept, 1);
-  for (QPushButton* const button : {open_, print_, export_, close}) bottom->addWidget(button);
-  auto* const column = new QVBoxLayout(this);
-  column->addLayout(top);
-  column->addWidget(list_, 1);
-  column->addLayout(bottom);
-  resize(720, 560);
-  list_->setFocus();
+  auto* const foot = new QHBoxLayout;
+  foot->addWidget(kept, 1);
+  for (QPushButton* const button : {open_, print_, export_, close}) foot->addWidget(button);
+  return foot;
 }
 
 QPushButton* PuzzleListDialog::AddButton(const QString& text, const char* name) {

@@ -35,6 +35,8 @@ class PuzzleListDialog final : public QDialog {
 
  private:
   void Build(const QString& where);
+  void BuildList();
+  QLayout* BuildFoot(const QString& where);
   QPushButton* AddButton(const QString& text, const char* name);
   void List(formats::ByteSource source, const QString& where);
   void ShowCount();
