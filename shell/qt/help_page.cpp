@@ -38,7 +38,9 @@ flashes. Tab moves between the controls; Shift+F1 tells the key of the one that 
 <i>Help &gt; Keys</i> all of them.</p>
 <p><b>Hint</b> names the next logical step and marks its rows and columns red, with an arrow. It never
 changes the board. <i>Help &gt; Techniques</i> shows what each hint means. The hint's text can be
-selected and copied. <b>Restart</b> begins the puzzle again, <b>Solution</b> shows it solved.</p>
+selected and copied. <b>Undo</b> (Ctrl+Z) and <b>Redo</b> (Ctrl+Y) go back and forth through every
+move, also after the end. <b>Restart</b> begins the puzzle again, <b>Solution</b> shows it solved.</p>
+<p>A game that you leave is kept: <b>Continue Last Game</b> in the menu <i>Puzzle</i> goes on with it.</p>
 <h2>Puzzles in and out</h2>
 <p><b>New</b> (Ctrl+N, Enter) makes a puzzle of the wished cages and level, ready to play. <b>Open</b>
 (Ctrl+O) and <b>Paste</b> (Ctrl+V) take text lines, links of SudokuPad and f-puzzles, game IDs of Solo
@@ -49,10 +51,10 @@ Way</b> writes down how it is solved, step by step.</p>
 <h2>Rules that surprise</h2>
 <ul>
 <li>Only a digit whose mark is shown can be placed. Placing it removes it from the marks of its row,
-column and cage; taking it out again does <b>not</b> give them back. Add a mark with the right button,
+column and cage; taking it out again does <b>not</b> give them back, as Undo does. Add a mark with the right button,
 or all nine with the middle one.</li>
-<li>A full board is applauded and framed, <b>right or wrong</b>, and then closed. Only Restart opens it
-again.</li>
+<li>A full board is applauded and framed, <b>right or wrong</b>, and then closed. Only Restart and Undo
+open it again.</li>
 <li>With <i>Update Pencilmarks</i> unticked every empty cell shows all nine marks, any digit can be
 placed, and the right button only takes digits out. The hints then come from the marks as they were
 kept until now.</li>

@@ -10,6 +10,7 @@
 #include "shell/puzzle_check.h"
 #include "shell/puzzle_export.h"
 #include "shell/puzzle_listing.h"
+#include "shell/qt/kept_wish.h"
 #include "shell/qt/new_puzzle_dialog.h"
 #include "shell/qt/puzzle_list_dialog.h"
 #include "shell/qt/puzzle_output.h"
@@ -38,8 +39,14 @@ bool CopySelectedText() {
 }  // namespace
 
 PuzzleActions::PuzzleActions(MenuBar& menu, QWidget& window, Tessel_Main& logic,
-                             std::function<void()> show, std::function<void()> play)
-    : menu_(menu), window_(window), logic_(logic), show_(std::move(show)), play_(std::move(play)) {
+                             Preferences& preferences, std::function<void()> show,
+                             std::function<void()> play)
+    : menu_(menu),
+      window_(window),
+      logic_(logic),
+      preferences_(preferences),
+      show_(std::move(show)),
+      play_(std::move(play)) {
   ConnectIncoming();
   ConnectOutgoing();
 }
@@ -66,9 +73,9 @@ void PuzzleActions::ConnectOutgoing() {
 }
 
 void PuzzleActions::New() {
-  NewPuzzleDialog dialog(wish_, logic_.DrawSeed(), &window_);
+  NewPuzzleDialog dialog(KeptWish(preferences_), logic_.DrawSeed(), &window_);
   const bool isMade = dialog.exec() == QDialog::Accepted;
-  wish_ = dialog.Wish();
+  KeepWish(preferences_, dialog.Wish());
   if (!isMade || !logic_.OpenPuzzle(*dialog.Made())) return;
   show_();
   play_();

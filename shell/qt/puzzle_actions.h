@@ -6,9 +6,9 @@
 #include <functional>
 #include <optional>
 
-#include "shell/new_puzzle.h"
 #include "shell/puzzle_reading.h"
 #include "shell/qt/menu_bar.h"
+#include "shell/qt/preferences.h"
 #include "shell/tessel_main.h"
 
 namespace tessel {
@@ -16,8 +16,8 @@ namespace tessel {
 class PuzzleActions {
  public:
   // All must live as long as the menu bar. `show` shows what has changed; `play` presses Solve.
-  PuzzleActions(MenuBar& menu, QWidget& window, Tessel_Main& logic, std::function<void()> show,
-                std::function<void()> play);
+  PuzzleActions(MenuBar& menu, QWidget& window, Tessel_Main& logic, Preferences& preferences,
+                std::function<void()> show, std::function<void()> play);
 
  private:
   using Source = std::function<tl::expected<formats::ByteSource, std::string>()>;
@@ -44,9 +44,9 @@ class PuzzleActions {
   MenuBar& menu_;
   QWidget& window_;
   Tessel_Main& logic_;
+  Preferences& preferences_;  // keep what was wished of the last new puzzle
   std::function<void()> show_;
   std::function<void()> play_;
-  NewPuzzleWish wish_;
 };
 
 }  // namespace tessel

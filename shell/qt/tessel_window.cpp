@@ -81,7 +81,7 @@ void TesselWindow::BuildMenus() {
   ConnectViewMenu(*menu_, {*this, *board_, *panel_, logic_->form(), preferences_, sounds_});
   gameActions_.emplace(*menu_, *panel_, *board_, *logic_, [this] { Sync(); });
   puzzleActions_.emplace(
-      *menu_, *this, *logic_, [this] { Sync(); },
+      *menu_, *this, *logic_, preferences_, [this] { Sync(); },
       [this] { panel_->Of(Button::CommandSolve)->click(); });
   helpActions_.emplace(*menu_, *this, *logic_);
 }

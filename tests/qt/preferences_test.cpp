@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFile>
 
+#include "shell/qt/kept_wish.h"
 #include "tests/fakes/temporary_folder.h"
 
 namespace tessel {
@@ -91,6 +92,25 @@ TEST_F(PreferencesFile, ThatCannotBeWrittenKeepsNothing) {
   Preferences preferences("/proc/no/such/folder/window.ini");
   preferences.SetChoice("level", 2);
   EXPECT_EQ(preferences.Choice("level", 6, 0), 2);
+}
+
+TEST_F(PreferencesFile, KeepTheWishForTheNextNewPuzzle) {
+  const NewPuzzleWish wish{.layout = maker::LayoutKind::kRotational,
+                           .symmetricGivens = true,
+                           .level = grade::Level::kHard};
+  {
+    Preferences preferences(Path());
+    EXPECT_EQ(KeptWish(preferences), NewPuzzleWish{});
+    KeepWish(preferences, {});
+    EXPECT_FALSE(QFile::exists(Path())) << "nothing was chosen";
+    KeepWish(preferences, wish);
+  }
+  EXPECT_EQ(KeptWish(Preferences(Path())), wish);
+}
+
+TEST_F(PreferencesFile, WishThatCannotBeIsNone) {
+  Write("[new]\nlayout=7\nlevel=-1\nsymmetric-givens=perhaps\n");
+  EXPECT_EQ(KeptWish(Preferences(Path())), NewPuzzleWish{});
 }
 
 }  // namespace
