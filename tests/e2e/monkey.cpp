@@ -40,10 +40,12 @@ constexpr const char* kControls[] = {
     "CommandRestart", "CommandSolution",  "CommandQuit",       "Rotational",     "MakeRegular",
     "CheckVisualize", "CheckPencilmarks", "ConcealRotational", "CommandConceal", "CommandHint"};
 constexpr const char* kKeys[] = {
-    "1",      "2",      "3",      "4",      "5",      "6",      "7",        "8",      "9",
-    "0",      "Up",     "Down",   "Left",   "Right",  "Tab",    "space",    "Return", "Escape",
-    "Delete", "Insert", "ctrl+3", "ctrl+7", "F1",     "alt+s",  "alt+f",    "alt+c",  "alt+h",
-    "alt+r",  "alt+p",  "Home",   "End",    "ctrl+z", "ctrl+y", "shift+Tab"};
+    "1",      "2",         "3",      "4",           "5",      "6",      "7",      "8",
+    "9",      "0",         "Up",     "Down",        "Left",   "Right",  "Tab",    "space",
+    "Return", "Escape",    "Delete", "Insert",      "ctrl+3", "ctrl+7", "F1",     "alt+s",
+    "alt+f",  "alt+c",     "alt+h",  "alt+r",       "alt+p",  "Home",   "End",    "ctrl+z",
+    "ctrl+y", "shift+Tab", "alt+g",  "alt+i",       "alt+e",  "ctrl+n", "ctrl+o", "ctrl+c",
+    "ctrl+v", "ctrl+d",    "ctrl+m", "ctrl+shift+o"};
 
 class Monkey {
  public:
