@@ -19,7 +19,8 @@ inline double Luminance(const QColor& colour) {
 
 // From 1 to 21.
 inline double Contrast(const QColor& one, const QColor& other) {
-  const auto [darker, lighter] = std::minmax(Luminance(one), Luminance(other));
+  // A list is copied; std::minmax of two temporaries would give references to what has gone.
+  const auto [darker, lighter] = std::minmax({Luminance(one), Luminance(other)});
   return (lighter + 0.05) / (darker + 0.05);
 }
 
