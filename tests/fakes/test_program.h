@@ -1,6 +1,9 @@
 // The whole program with fakes behind its ports, started.
 #pragma once
 
+#include <memory>
+#include <utility>
+
 #include "core/random_source.h"
 #include "shell/tessel_main.h"
 #include "tests/fakes/fake_clock.h"
@@ -13,8 +16,13 @@
 namespace tessel {
 
 struct TestProgram {
-  explicit TestProgram(std::uint64_t firstSeed = 1, SystemCalls& system = UnthreadedCalls::Shared())
-      : clock(firstSeed), main(view, player, clock, random, folder.Path().string(), system) {
+  // A later program in the folder of another shares its home.
+  explicit TestProgram(
+      std::uint64_t firstSeed = 1, SystemCalls& system = UnthreadedCalls::Shared(),
+      std::shared_ptr<const TemporaryFolder> itsHome = std::make_shared<const TemporaryFolder>())
+      : home(std::move(itsHome)),
+        clock(firstSeed),
+        main(view, player, clock, random, folder.Path().string(), system) {
     main.Form_Load();
   }
 
@@ -37,7 +45,8 @@ struct TestProgram {
     main.Click(Button::CommandConceal);
   }
 
-  TemporaryFolder folder;
+  const std::shared_ptr<const TemporaryFolder> home;
+  const TemporaryFolder& folder = *home;
   FakeClock clock;
   FakeSoundPlayer player;
   RecordingView view;

@@ -21,20 +21,6 @@ std::string BytesOf(const fs::path& path) {
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
-// A program in the folder of another.
-struct LaterProgram {
-  explicit LaterProgram(const fs::path& folder, SystemCalls& system = UnthreadedCalls::Shared())
-      : main(view, player, clock, random, folder.string(), system) {
-    main.Form_Load();
-  }
-
-  FakeClock clock{1};
-  FakeSoundPlayer player;
-  RecordingView view;
-  SeededRandom random;
-  Tessel_Main main;
-};
-
 class Continue : public SolvingTest {
  protected:
   fs::path File() const { return program.folder.Path() / kGameFileName; }
@@ -57,7 +43,7 @@ TEST_F(Continue, LaterProgramGoesOnWhereThisOneWas) {
   program.main.Undo();
   const std::string board = PictureOf(form());
 
-  LaterProgram later(program.folder.Path());
+  TestProgram later(1, UnthreadedCalls::Shared(), program.home);
   ASSERT_TRUE(later.main.CanContinue());
   later.main.ContinueLastGame();
   EXPECT_EQ(static_cast<const Position&>(later.main.state()),
@@ -146,7 +132,7 @@ TEST_F(Continue, FileIsForTheUserAloneAndNothingElseIsLeft) {
 TEST_F(Continue, GarbageIsPutAsideAndTold) {
   for (const char* aside : {".broken", ".broken-2"}) {
     std::ofstream(File()) << "garbage" << aside;
-    LaterProgram later(program.folder.Path());
+    TestProgram later(1, UnthreadedCalls::Shared(), program.home);
     later.main.ContinueLastGame();
     EXPECT_FALSE(later.main.form().SolveButtonsVisible());
     const fs::path path = File().string() + aside;

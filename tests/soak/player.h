@@ -1,7 +1,9 @@
 // A player who makes puzzles of every kind, brings others from elsewhere, and plays them by hints,
-// mistakes included, back and forth. What does not hold fails as in a test.
+// mistakes included, back and forth, and from one program to the next. What does not hold fails as
+// in a test.
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "core/random_source.h"
@@ -11,7 +13,7 @@ namespace tessel {
 
 class Player {
  public:
-  // One program, used from the first puzzle to the last.
+  // One folder, used from the first puzzle to the last, and one program after the other in it.
   explicit Player(std::uint64_t seed);
 
   // Saws, fills and conceals in a mode chosen at random, now and then after a command stopped half
@@ -33,11 +35,14 @@ class Player {
     long events = 0;
     long opened = 0;
     long undone = 0;  // and done again
+    long continued = 0;
   };
   Counts made;
 
  private:
   int Draw(int n) { return DrawIndex(random_, n); }
+  const GameState& State() const { return program_->state(); }
+  void StartProgram(std::unique_ptr<TestProgram> program);
   void Click(Button button);
   void ClickMark(int cell, int digit, MouseButton button);
   void RunCommand(Button button, Button next);
@@ -45,17 +50,23 @@ class Player {
   void CheckSolution();
   void CheckPuzzle();
 
+  void PlayToTheEnd();
   std::string AskHint();
+  bool FollowHints();
   void MakeMistakes();
   void RepairMistakes();
   bool Repair(const std::string& sentence);
   void RemoveStaleMarks(int cell);
   void PlaceSomeDigit();
   void GoBackAndForth();
+  void ContinueInAnyMode();
+  void ContinueFromBefore();
+  void ContinueAnew();
 
   SeededRandom random_;
-  TestProgram program_;
-  const GameState& state_;
+  std::unique_ptr<TestProgram> program_;
+  bool asksSpecialPass_ = false;
+  bool hasWholeHistory_ = true;  // of the game; the game file holds a limited number of steps
   long stopAt_ = 0;  // the pump of the running command that brings a click on its button
 };
 

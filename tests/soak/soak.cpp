@@ -51,13 +51,14 @@ class Soak {
     const RandomUser::Counts& clicked = user.Made();
     std::printf(
         "%3.0f%%: %ld puzzles (%ld stops), %ld games, %ld hints, %ld mistakes, %ld repairs, "
-        "%ld digits without a hint, %ld events, %ld opened, %ld undone; random users: %ld events "
-        "(%ld in pumps, %ld in "
-        "questions), %ld puzzles, %ld games; %ld KB, grown by %ld KB\n",
+        "%ld digits without a hint, %ld events, %ld opened, %ld undone, %ld continued; random "
+        "users: %ld events (%ld in pumps, %ld in questions), %ld puzzles, %ld games; %ld KB, grown "
+        "by %ld KB\n",
         100 * std::min(Passed(), 1.0), made.puzzles, made.stops, made.games, made.hints,
         made.mistakes, made.repairs, made.digitsWithoutHint, made.events, made.opened, made.undone,
-        clicked.events, clicked.insidePumps, clicked.insideQuestions, clicked.puzzles,
-        clicked.gamesFinished, ResidentKilobytes(), ResidentKilobytes() - settled_);
+        made.continued, clicked.events, clicked.insidePumps, clicked.insideQuestions,
+        clicked.puzzles, clicked.gamesFinished, ResidentKilobytes(),
+        ResidentKilobytes() - settled_);
     std::fflush(stdout);
   }
 
