@@ -55,6 +55,7 @@ int main(int given, char** argv) {
   std::setlocale(LC_NUMERIC, "C");  // Qt took over the user's; times are written with a point
   QApplication::setApplicationName("tessel-sudoku");
 
+  tessel::Preferences::TakeInDialogs();
   tessel::TesselWindow window(tessel::Preferences::UserFile());
   tessel::SoundSwitch sounds(player);
   tessel::SystemClock clock;

@@ -9,6 +9,12 @@ namespace {
 
 constexpr qint64 kMaxBytes = 1 << 20;  // of a file that a player's choices can have grown to
 
+// Empty where the user has none.
+QString UserFolder() {
+  const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+  return folder.isEmpty() ? QString() : folder + "/tessel-sudoku";
+}
+
 // Only a plain file of moderate size is opened: a pipe would hold up the start, and so would a
 // disk's image.
 bool CanBeRead(const QFileInfo& file) {
@@ -18,8 +24,14 @@ bool CanBeRead(const QFileInfo& file) {
 }  // namespace
 
 QString Preferences::UserFile() {
-  const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
-  return folder.isEmpty() ? QString() : folder + "/tessel-sudoku/window.ini";
+  const QString folder = UserFolder();
+  return folder.isEmpty() ? QString() : folder + "/window.ini";
+}
+
+void Preferences::TakeInDialogs() {
+  const QString folder = UserFolder();
+  if (folder.isEmpty()) return;
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder);
 }
 
 Preferences::Preferences(const QString& file) {

@@ -14,6 +14,9 @@ class Preferences {
  public:
   // The file in the user's configuration folder.
   static QString UserFile();
+  // From now on, what the toolkit's own dialogs remember (the folders last visited, their columns)
+  // lies beside that file and not in one that programs share.
+  static void TakeInDialogs();
 
   // Keeps nothing beyond its own life.
   Preferences() = default;

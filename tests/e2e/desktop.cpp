@@ -48,6 +48,7 @@ Desktop::Desktop() {
                            "XDG_CURRENT_DESKTOP", "WAYLAND_DISPLAY", "DBUS_SESSION_BUS_ADDRESS"}) {
     qunsetenv(name);
   }
+  qputenv("XDG_CONFIG_HOME", preferences_.path().toLocal8Bit());
   qputenv("QT_QPA_PLATFORM", "xcb");
   qputenv("LC_ALL", "C.UTF-8");
   qputenv("PULSE_SERVER", "unix:/nonexistent");  // or a sound server would be started

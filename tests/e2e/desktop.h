@@ -6,6 +6,7 @@
 #include <QImage>
 #include <QProcess>
 #include <QStringList>
+#include <QTemporaryDir>
 #include <memory>
 
 namespace tessel {
@@ -29,6 +30,7 @@ class Desktop {
   QString StartDisplay();
   void StartWindowManager();
 
+  QTemporaryDir preferences_;  // of nobody who uses this machine
   QProcess display_;
   QProcess windowManager_;
   std::unique_ptr<QApplication> application_;

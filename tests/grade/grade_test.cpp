@@ -6,6 +6,7 @@
 
 #include "grade/way.h"
 #include "tests/grade/made_puzzles.h"
+#include "tests/sample_count.h"
 
 namespace tessel::grade {
 namespace {
@@ -46,7 +47,7 @@ TEST(Grade, CountKeepsTheHardestKindAndTheFewestSteps) {
 
 TEST(Grade, FastAndPlainWayTellTheSame) {
   PuzzleMaker maker;
-  for (std::uint64_t seed = 0; seed < 500; ++seed) {
+  for (std::uint64_t seed = 0; seed < Samples<std::uint64_t>(500); ++seed) {
     const Puzzle puzzle = maker.MakeAnyKind(seed);
     ASSERT_EQ(GradeOf(puzzle.layout, puzzle.givens), GradeOf(WayOf(puzzle.layout, puzzle.givens)))
         << "seed " << seed;

@@ -5,6 +5,7 @@
 
 #include "grade/grade.h"
 #include "tests/grade/made_puzzles.h"
+#include "tests/sample_count.h"
 
 namespace tessel::grade {
 namespace {
@@ -63,7 +64,7 @@ TEST(Symmetry, NumbersAreShuffled) {
 TEST(Symmetry, NoneChangesTheGrade) {
   PuzzleMaker maker;
   RandomStream random(7);
-  for (std::uint64_t seed = 0; seed < 4000; ++seed) {
+  for (std::uint64_t seed = 0; seed < Samples<std::uint64_t>(4000); ++seed) {
     const Puzzle puzzle = maker.MakeAnyKind(seed);
     const Grade grade = Unplaced(GradeOf(puzzle.layout, puzzle.givens));
     for (int symmetry = 0; symmetry < 8; ++symmetry) {

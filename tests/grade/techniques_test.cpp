@@ -7,6 +7,7 @@
 #include "grade/way.h"
 #include "hints/ladder.h"
 #include "tests/grade/made_boards.h"
+#include "tests/sample_count.h"
 
 namespace tessel::grade {
 namespace {
@@ -141,7 +142,7 @@ bool HasQuint(const Layout& layout, const CandidateGrid& position) {
 TEST(Techniques, QuintsChangeNoGrade) {
   PuzzleMaker maker;
   int asked = 0;
-  for (std::uint64_t seed = 0; seed < 10'000; ++seed) {
+  for (std::uint64_t seed = 0; seed < Samples<std::uint64_t>(10'000); ++seed) {
     const Puzzle puzzle = maker.MakeAnyKind(seed);
     const Grade grade = GradeOf(puzzle.layout, puzzle.givens);
     if (grade.level != Level::kBeyond && grade.hardest < StepKind::kXWing) continue;
@@ -152,7 +153,7 @@ TEST(Techniques, QuintsChangeNoGrade) {
     }
     ++asked;
   }
-  EXPECT_GT(asked, 100);
+  EXPECT_GT(asked, Samples(100));
 }
 
 TEST(Leftovers, OfOneLineSayWhatPointingAndClaimingSay) {

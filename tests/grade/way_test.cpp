@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/grade/made_puzzles.h"
+#include "tests/sample_count.h"
 
 namespace tessel::grade {
 namespace {
@@ -29,7 +30,7 @@ void ExpectWorks(const Step& step, const CandidateGrid& before) {
 
 TEST(Way, EveryStepIsTrueInTheSolution) {
   PuzzleMaker maker;
-  for (std::uint64_t seed = 0; seed < 500; ++seed) {
+  for (std::uint64_t seed = 0; seed < Samples<std::uint64_t>(500); ++seed) {
     const Puzzle puzzle = maker.MakeAnyKind(seed);
     for (const Round& round : WayOf(puzzle.layout, puzzle.givens).rounds) {
       for (const Step& step : round.steps) ExpectTrue(step, *puzzle.solution);

@@ -1,9 +1,11 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QTemporaryDir>
 #include <QTemporaryFile>
 
-// The offscreen display is smaller than some of the windows, unless it is told otherwise.
+// The offscreen display is smaller than some of the windows, unless it is told otherwise. The
+// preferences of whoever runs the tests stay out of them.
 int main(int argc, char** argv) {
   QTemporaryFile display;
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && display.open()) {
@@ -12,6 +14,8 @@ int main(int argc, char** argv) {
     display.flush();
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + display.fileName().toUtf8());
   }
+  const QTemporaryDir preferences;
+  qputenv("XDG_CONFIG_HOME", preferences.path().toLocal8Bit());
   testing::InitGoogleTest(&argc, argv);
   QApplication application(argc, argv);
   return RUN_ALL_TESTS();

@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileDialog>
 
 #include "shell/qt/kept_wish.h"
 #include "tests/fakes/temporary_folder.h"
@@ -92,6 +93,20 @@ TEST_F(PreferencesFile, ThatCannotBeWrittenKeepsNothing) {
   Preferences preferences("/proc/no/such/folder/window.ini");
   preferences.SetChoice("level", 2);
   EXPECT_EQ(preferences.Choice("level", 6, 0), 2);
+}
+
+TEST_F(PreferencesFile, HasWhatDialogsRememberBesideIt) {
+  qputenv("XDG_CONFIG_HOME", folder_.Path().c_str());
+  Preferences::TakeInDialogs();
+  {
+    QFileDialog dialog;
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.selectFile("puzzle.txt");
+  }
+  const QDir config(QString::fromStdString(folder_.Path().string()));
+  EXPECT_TRUE(config.exists("tessel-sudoku/QtProject.conf"));
+  EXPECT_EQ(config.entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+            QStringList("tessel-sudoku"));
 }
 
 TEST_F(PreferencesFile, KeepTheWishForTheNextNewPuzzle) {
