@@ -1,9 +1,11 @@
 // Writes a picture of every stage of the program. docs/screenshots runs it for every scale.
 #include <QApplication>
 #include <QDir>
+#include <QEventLoop>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QTimer>
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 
@@ -121,6 +123,14 @@ class Photographer {
     timer.start(0);
     Click(Button::CommandGo);
     main_.Toggle(CheckBox::CheckVisualize);
+    WaitUntilButtonsListen();
+  }
+
+  // A button that has just read "Stop" is deaf for a while.
+  void WaitUntilButtonsListen() {
+    QEventLoop loop;
+    QTimer::singleShot(std::chrono::milliseconds(500), &loop, &QEventLoop::quit);
+    loop.exec();
   }
 
   int EmptyCell(int from) const {
