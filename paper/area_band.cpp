@@ -1,6 +1,7 @@
 #include "paper/area_band.h"
 
 #include "core/cage_edges.h"
+#include "paper/cell_outline.h"
 
 namespace tessel::paper {
 
@@ -25,10 +26,7 @@ void DrawBand(cairo_t* context, CellSet area, Point origin, double cellSide,
   };
   const auto together = [&](int a, int b) { return area.Contains(a) == area.Contains(b); };
   cairo_save(context);
-  ForEach(area, [&](int cell) {
-    const Box box = boxOf(cell);
-    cairo_rectangle(context, box.x, box.y, box.width, box.height);
-  });
+  AddCells(context, area, origin, cellSide);
   cairo_clip(context);
   ForEach(area, [&](int cell) {
     for (const CellSide side : kCellSides) {

@@ -1,11 +1,13 @@
 #include "paper/board_drawing.h"
 
 #include <algorithm>
-#include <numbers>
 #include <string>
 
 #include "core/cage_edges.h"
 #include "paper/area_band.h"
+#include "paper/cell_outline.h"
+#include "paper/mark_drawing.h"
+#include "paper/ringed_digits.h"
 #include "paper/text.h"
 #include "paper/tints.h"
 
@@ -18,14 +20,10 @@ constexpr double kWall = 1.0 / 14;
 constexpr double kFrame = 1.0 / 9;
 constexpr double kThinLine = 1.0 / 55;
 constexpr double kCaptionBand = 0.62;
-constexpr double kMarkSize = 0.24;
-constexpr double kRing = 0.145;
 constexpr double kBand = 0.085;
-constexpr double kStroke = 1.0 / 42;  // of rings and crosses
 
 constexpr double kMinThinLine = 0.35;  // points: finer ones get lost on paper
 constexpr double kThinLineGrey = 0.55;
-constexpr double kMarkGrey = 0.2;
 
 // The names that hints give to rows.
 constexpr std::string_view kRowLetters = "ABCDEFGHJ";
@@ -36,8 +34,6 @@ struct Colour {
   double blue;
 };
 constexpr Colour kHighlight{1.0, 0.93, 0.62};
-constexpr Colour kStrike{0.8, 0.08, 0.05};
-constexpr Colour kRingColour{0.05, 0.3, 0.65};
 using Grounds = std::array<Colour, kTints>;
 constexpr Grounds kGreyGrounds{
     {{1, 1, 1}, {0.93, 0.93, 0.93}, {0.865, 0.865, 0.865}, {0.8, 0.8, 0.8}}};
@@ -62,7 +58,7 @@ class Drawing {
     FillHighlights();
     DrawBands();
     DrawThinLines();
-    DrawMarks();
+    DrawMarks(context_, fonts_, picture_, {origin_, side_});
     DrawDigits();
     DrawWalls();
     if (picture_.captions) DrawCaptions();
@@ -76,13 +72,6 @@ class Drawing {
     const Point corner = CornerOf(cell);
     return {corner.x + side_ / 2, corner.y + side_ / 2};
   }
-  // Where the keypad has that digit.
-  Point MarkCentre(int cell, int digit) const {
-    const Point centre = CentreOf(cell);
-    constexpr double step = 0.3;
-    return {centre.x + ((digit - 1) % 3 - 1) * step * side_,
-            centre.y + ((digit - 1) / 3 - 1) * step * side_};
-  }
   void SetColour(const Colour& colour) const {
     cairo_set_source_rgb(context_, colour.red, colour.green, colour.blue);
   }
@@ -93,11 +82,8 @@ class Drawing {
   void FillHighlights() const;
   void DrawBands() const;
   void DrawThinLines() const;
-  void DrawMarks() const;
-  void DrawMark(int cell, int digit) const;
   void DrawDigits() const;
-  void DrawGlyphs(Face face, CellSet cells) const;
-  void DrawRing(Point centre, double radius) const;
+  void DrawCellDigits(Face face, CellSet cells) const;
   void DrawWalls() const;
   void DrawCaptions() const;
 
@@ -109,12 +95,8 @@ class Drawing {
   Point origin_;
 };
 
-// One path for all cells: filled one by one, they would show seams.
 void Drawing::FillCells(CellSet cells, const Colour& colour) const {
-  ForEach(cells, [&](int cell) {
-    const Point corner = CornerOf(cell);
-    cairo_rectangle(context_, corner.x, corner.y, side_, side_);
-  });
+  AddCells(context_, cells, origin_, side_);
   SetColour(colour);
   cairo_fill(context_);
 }
@@ -170,65 +152,19 @@ void Drawing::DrawThinLines() const {
   cairo_stroke(context_);
 }
 
-void Drawing::DrawMarks() const {
-  for (int cell = 0; cell < kCellCount; ++cell) {
-    if (picture_.digits[cell] != 0) continue;
-    for (int digit = 1; digit <= kSide; ++digit) DrawMark(cell, digit);
-  }
-}
-
-void Drawing::DrawMark(int cell, int digit) const {
-  const bool reason = Holds(picture_.reasons[cell], digit);
-  const bool struck = Holds(picture_.struck[cell], digit);
-  if (!reason && !struck && !Holds(picture_.marks[cell], digit)) return;
-  const TextStyle text{reason ? Face::kBold : Face::kRegular, kMarkSize * side_,
-                       reason ? 0.0 : kMarkGrey};
-  const Point centre = MarkCentre(cell, digit);
-  const double baseline = centre.y + fonts_.DigitHeight(text.face) * text.size / 2;
-  DrawText(context_, fonts_, std::string(1, static_cast<char>('0' + digit)), text,
-           {centre.x, baseline}, Align::kCentre);
-  if (reason) DrawRing(centre, kRing * side_);
-  if (!struck) return;
-  const double reach = 0.1 * side_;
-  for (const double slope : {-1.0, 1.0}) {
-    cairo_move_to(context_, centre.x - reach, centre.y - slope * reach);
-    cairo_line_to(context_, centre.x + reach, centre.y + slope * reach);
-  }
-  SetColour(kStrike);
-  cairo_set_line_cap(context_, CAIRO_LINE_CAP_ROUND);
-  cairo_set_line_width(context_, kStroke * side_);
-  cairo_stroke(context_);
-}
-
-void Drawing::DrawRing(Point centre, double radius) const {
-  cairo_new_sub_path(context_);
-  cairo_arc(context_, centre.x, centre.y, radius, 0, 2 * std::numbers::pi);
-  SetColour(kRingColour);
-  cairo_set_line_width(context_, kStroke * side_);
-  cairo_stroke(context_);
-}
-
 void Drawing::DrawDigits() const {
-  DrawGlyphs(Face::kBold, picture_.givens);
-  DrawGlyphs(Face::kRegular, kAllCells - picture_.givens);
-  ForEach(picture_.placed, [&](int cell) { DrawRing(CentreOf(cell), 0.4 * side_); });
+  DrawCellDigits(Face::kBold, picture_.givens);
+  DrawCellDigits(Face::kRegular, kAllCells - picture_.givens);
+  ForEach(picture_.placed, [&](int cell) { AddRing(context_, CentreOf(cell), 0.4 * side_); });
+  StrokeRings(context_, side_);
 }
 
-void Drawing::DrawGlyphs(Face face, CellSet cells) const {
-  std::vector<cairo_glyph_t> glyphs;
-  const double size = style_.digitSize * side_;
-  const double left = fonts_.DigitWidth(face) * size / 2;
-  const double down = fonts_.DigitHeight(face) * size / 2;
+void Drawing::DrawCellDigits(Face face, CellSet cells) const {
+  DigitRun run(fonts_, face, style_.digitSize * side_);
   ForEach(cells, [&](int cell) {
-    const int digit = picture_.digits[cell];
-    if (digit == 0) return;
-    const Point centre = CentreOf(cell);
-    glyphs.push_back({fonts_.DigitGlyph(face, digit), centre.x - left, centre.y + down});
+    if (picture_.digits[cell] != 0) run.Add(picture_.digits[cell], CentreOf(cell));
   });
-  if (glyphs.empty()) return;
-  fonts_.Select(context_, face, size);
-  SetGrey(0);
-  cairo_show_glyphs(context_, glyphs.data(), static_cast<int>(glyphs.size()));
+  run.Show(context_, 0.0);
 }
 
 void Drawing::DrawWalls() const {
