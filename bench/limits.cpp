@@ -40,12 +40,6 @@ std::optional<std::int64_t> IterationsToFill(Engine& engine, std::int64_t limit,
   return std::nullopt;
 }
 
-oracle::Grid OracleGrid(const CageNumbers& cages) {
-  oracle::Grid grid{};
-  std::ranges::copy(cages, grid.begin());
-  return grid;
-}
-
 const char* NameOf(LayoutKind kind) {
   return kind == LayoutKind::kRandom ? "random" : "rotational";
 }
