@@ -72,16 +72,21 @@ Distribution InsideWindow::ClicksToPainted(int clicks) {
   return Distribution(std::move(seconds));
 }
 
-double InsideWindow::PicturesASecondOfFill() {
-  Press("CommandSaw");
+double InsideWindow::ShownSeconds(const char* button) {
+  WaitUntilButtonsListen();
   Find<QCheckBox>("CheckVisualize").click();
-  const long before = paints_->Paints();
-  const double seconds = WallSecondsOf([&] { Press("CommandGo"); });
+  const double seconds = WallSecondsOf([&] { Press(button); });
   Find<QCheckBox>("CheckVisualize").click();
-  return static_cast<double>(paints_->Paints() - before) / seconds;
+  return seconds;
+}
+
+void InsideWindow::WaitUntilButtonsListen() {
+  std::this_thread::sleep_for(std::chrono::milliseconds(500));
+  QCoreApplication::processEvents();
 }
 
 std::optional<double> InsideWindow::StopSeconds() {
+  WaitUntilButtonsListen();
   Press("CommandSaw");
   Find<QCheckBox>("CheckVisualize").click();
   auto& button = Find<QPushButton>("CommandGo");

@@ -31,8 +31,8 @@ class InsideWindow {
   // Seconds from a click on a mark in solving mode until the board's new picture is with the
   // display.
   Distribution ClicksToPainted(int clicks);
-  // Pictures a second that a visualised Fill shows, one for each placement.
-  double PicturesASecondOfFill();
+  // Seconds that the command under the button takes when it is watched.
+  double ShownSeconds(const char* button);
   // Seconds from a click on "Stop" in the midst of a visualised Fill until the Fill has ended; none
   // when it was through before.
   std::optional<double> StopSeconds();
@@ -41,6 +41,8 @@ class InsideWindow {
   template <typename Widget>
   Widget& Find(const char* control) const;
   void Press(const char* button) const;
+  // A button that has just read "Stop" is deaf for a while.
+  static void WaitUntilButtonsListen();
   void MakePuzzle() const;
   void PostClick(QWidget& widget, QPoint place, Qt::MouseButton button) const;
   double SecondsUntilPainted(int cell, int digit, Qt::MouseButton button);
