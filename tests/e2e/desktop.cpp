@@ -22,7 +22,7 @@ class DesktopEnvironment : public testing::Environment {
   void TearDown() override { desktop.reset(); }
 };
 
-[[maybe_unused]] const auto* const environment =
+[[maybe_unused]] const auto* const kEnvironment =
     testing::AddGlobalTestEnvironment(new DesktopEnvironment);
 
 void Stop(QProcess& process) {
