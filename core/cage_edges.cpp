@@ -17,6 +17,20 @@ std::vector<WallRun> RunsAlong(const auto& isWall, const auto& corner) {
   return runs;
 }
 
+std::vector<WallRun> RunsAbove(int row, const Layout& layout) {
+  return RunsAlong([&](int k) { return IsCageWall(layout, CellAt(row, k), CellSide::kTop); },
+                   [&](int k) {
+                     return Corner{row, k};
+                   });
+}
+
+std::vector<WallRun> RunsLeftOf(int column, const Layout& layout) {
+  return RunsAlong([&](int k) { return IsCageWall(layout, CellAt(k, column), CellSide::kLeft); },
+                   [&](int k) {
+                     return Corner{k, column};
+                   });
+}
+
 }  // namespace
 
 std::vector<WallRun> CageWallRuns(const Layout& layout) {
@@ -24,18 +38,8 @@ std::vector<WallRun> CageWallRuns(const Layout& layout) {
   const auto add = [&](const std::vector<WallRun>& more) {
     runs.insert(runs.end(), more.begin(), more.end());
   };
-  for (int line = 1; line < kSide; ++line) {
-    add(RunsAlong([&](int k) { return IsCageWall(layout, CellAt(line, k), CellSide::kTop); },
-                  [&](int k) {
-                    return Corner{line, k};
-                  }));
-  }
-  for (int line = 1; line < kSide; ++line) {
-    add(RunsAlong([&](int k) { return IsCageWall(layout, CellAt(k, line), CellSide::kLeft); },
-                  [&](int k) {
-                    return Corner{k, line};
-                  }));
-  }
+  for (int row = 1; row < kSide; ++row) add(RunsAbove(row, layout));
+  for (int column = 1; column < kSide; ++column) add(RunsLeftOf(column, layout));
   return runs;
 }
 

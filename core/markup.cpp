@@ -2,23 +2,26 @@
 
 namespace tessel {
 
+namespace {
+
+std::string EscapedForMarkup(char character) {
+  switch (character) {
+    case '&':
+      return "&amp;";
+    case '<':
+      return "&lt;";
+    case '"':
+      return "&quot;";
+    default:
+      return {character};
+  }
+}
+
+}  // namespace
+
 std::string EscapedForMarkup(std::string_view text) {
   std::string escaped;
-  for (const char character : text) {
-    switch (character) {
-      case '&':
-        escaped += "&amp;";
-        break;
-      case '<':
-        escaped += "&lt;";
-        break;
-      case '"':
-        escaped += "&quot;";
-        break;
-      default:
-        escaped += character;
-    }
-  }
+  for (const char character : text) escaped += EscapedForMarkup(character);
   return escaped;
 }
 

@@ -71,6 +71,20 @@ std::string LeftoversReason(const InLayout& in) {
          NamesOf(left.ofCages) + ". " + in.Digit() + " has no place at " + NamesOf(bare, "or");
 }
 
+// The digits that cells lose, each time with all cells that lose just these.
+std::vector<std::pair<Mask, CellSet>> CellsThatLose(const Step& step) {
+  std::vector<std::pair<Mask, CellSet>> groups;
+  for (const auto& [cell, digits] : step.removals) {
+    const auto same = std::ranges::find(groups, digits, &std::pair<Mask, CellSet>::first);
+    if (same == groups.end()) {
+      groups.emplace_back(digits, CellSet::Of(cell));
+    } else {
+      same->second = same->second | CellSet::Of(cell);
+    }
+  }
+  return groups;
+}
+
 }  // namespace
 
 std::string ReasonOf(const Layout& layout, const Step& step) {
@@ -106,17 +120,8 @@ std::string OutcomeOf(const Step& step) {
   if (step.placement) {
     return CellName(step.placement->cell) + " is " + std::to_string(step.placement->digit);
   }
-  std::vector<std::pair<Mask, CellSet>> groups;
-  for (const auto& [cell, digits] : step.removals) {
-    const auto same = std::ranges::find(groups, digits, &std::pair<Mask, CellSet>::first);
-    if (same == groups.end()) {
-      groups.emplace_back(digits, CellSet::Of(cell));
-    } else {
-      same->second = same->second | CellSet::Of(cell);
-    }
-  }
   std::string outcome;
-  for (const auto& [digits, cells] : groups) {
+  for (const auto& [digits, cells] : CellsThatLose(step)) {
     outcome += (outcome.empty() ? "" : "; ") + NamesOf(digits) +
                (CandidateCount(digits) == 1 ? " goes from " : " go from ") + NamesOf(cells);
   }

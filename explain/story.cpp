@@ -66,11 +66,15 @@ std::string NumberedHeading(const Explanation& explanation, std::size_t k) {
   return std::to_string(k + 1) + ". " + HeadingOf(explanation.steps[k].step);
 }
 
-paper::Story StoryOf(const Explanation& explanation, const std::string& title) {
-  paper::Story story{title, {}};
+paper::Panel FirstPanelOf(const Explanation& explanation, const std::string& title) {
   paper::BoardPicture start = WithCaptions(PictureOf(explanation, explanation.Start()));
   if (explanation.Start().digits == explanation.givens) start.marks = {};
-  story.panels.push_back({title, OpeningOf(explanation), std::move(start), std::nullopt});
+  return {title, OpeningOf(explanation), std::move(start), std::nullopt};
+}
+
+paper::Story StoryOf(const Explanation& explanation, const std::string& title) {
+  paper::Story story{title, {}};
+  story.panels.push_back(FirstPanelOf(explanation, title));
   for (std::size_t k = 0; k < explanation.steps.size(); ++k) {
     story.panels.push_back(PanelOf(explanation, k));
   }

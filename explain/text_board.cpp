@@ -42,6 +42,16 @@ std::string CandidateText(const grade::CandidateGrid& position, int cell) {
   return text;
 }
 
+std::string TableRow(int row, const PerCell<std::string>& texts,
+                     const std::array<std::size_t, kSide>& widths) {
+  std::string line = RowName(row);
+  for (int column = 0; column < kSide; ++column) {
+    const std::string& text = texts[CellAt(row, column)];
+    line += "  " + text + std::string(widths[column] - text.size(), ' ');
+  }
+  return WithoutBlanksBehind(line);
+}
+
 }  // namespace
 
 std::string Drawn(const Layout& layout, const CellTexts& texts) {
@@ -82,14 +92,7 @@ std::string CandidateTable(const grade::CandidateGrid& position) {
     widths[ColumnOf(cell)] = std::max(widths[ColumnOf(cell)], texts[cell].size());
   }
   std::string table;
-  for (int row = 0; row < kSide; ++row) {
-    std::string line = RowName(row);
-    for (int column = 0; column < kSide; ++column) {
-      const std::string& text = texts[CellAt(row, column)];
-      line += "  " + text + std::string(widths[column] - text.size(), ' ');
-    }
-    table += WithoutBlanksBehind(line);
-  }
+  for (int row = 0; row < kSide; ++row) table += TableRow(row, texts, widths);
   return table;
 }
 

@@ -91,6 +91,20 @@ bool SaysSomething(const Json& value) {
   return !value.is_null() && !value.empty();
 }
 
+// A letter of base64.
+std::string InAddress(char letter) {
+  switch (letter) {
+    case '+':
+      return "%2B";
+    case '/':
+      return "%2F";
+    case '=':
+      return "%3D";
+    default:
+      return {letter};
+  }
+}
+
 }  // namespace
 
 bool HasMarker(std::string_view line, std::span<const std::string_view> markers) {
@@ -114,19 +128,7 @@ std::string LinkTo(std::string_view address, const OrderedJson& json) {
   const std::string text = json.dump(-1, ' ', true);
   std::string link(address);
   for (const char letter : LzCompressed(std::u16string(text.begin(), text.end()))) {
-    switch (letter) {
-      case '+':
-        link += "%2B";
-        break;
-      case '/':
-        link += "%2F";
-        break;
-      case '=':
-        link += "%3D";
-        break;
-      default:
-        link += letter;
-    }
+    link += InAddress(letter);
   }
   return link + "\n";
 }

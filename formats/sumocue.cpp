@@ -32,6 +32,26 @@ tl::expected<Cell, Fault> CellFrom(std::string_view line, std::size_t offset) {
               static_cast<std::uint8_t>(line[offset + 3] - '0' + 1)};
 }
 
+struct Cells {
+  Grid givens{};
+  CageNumbers cages{};
+};
+
+// All 81 from there, with which the line ends.
+tl::expected<Cells, Fault> CellsFrom(std::string_view line, std::size_t offset) {
+  Cells cells;
+  for (int i = 0; i < kCellCount; ++i, offset += kLettersOfCell) {
+    const auto cell = CellFrom(line, offset);
+    if (!cell) return tl::unexpected(cell.error());
+    cells.givens[i] = cell->value;
+    cells.cages[i] = cell->cage;
+  }
+  offset = SkipSpace(line, offset);
+  if (offset == line.size()) return cells;
+  return tl::unexpected(
+      Fault{offset, "", "the end of the line after 81 cells", ShownAt(line, offset)});
+}
+
 Fault CageFault(std::size_t start, const LayoutError& error) {
   std::string found = "cage " + std::to_string(error.cage - 1);
   if (error.fault == LayoutError::Fault::kNotNineCells) {
@@ -55,22 +75,11 @@ Reading ReadSumoCue(std::string_view line) {
     return tl::unexpected(Fault{offset, "", std::string(kStart), ShownAt(line, offset)});
   }
   offset += kStart.size();
-  const std::size_t start = offset;
-  Grid givens{};
-  CageNumbers cages{};
-  for (int i = 0; i < kCellCount; ++i, offset += kLettersOfCell) {
-    const auto cell = CellFrom(line, offset);
-    if (!cell) return tl::unexpected(cell.error());
-    givens[i] = cell->value;
-    cages[i] = cell->cage;
-  }
-  offset = SkipSpace(line, offset);
-  if (offset < line.size()) {
-    return tl::unexpected(
-        Fault{offset, "", "the end of the line after 81 cells", ShownAt(line, offset)});
-  }
+  const auto cells = CellsFrom(line, offset);
+  if (!cells) return tl::unexpected(cells.error());
+  const auto& [givens, cages] = *cells;
   auto layout = Layout::FromCages(cages);
-  if (!layout) return tl::unexpected(CageFault(start, layout.error()));
+  if (!layout) return tl::unexpected(CageFault(offset, layout.error()));
   return DescribedPuzzle{.puzzle = {*std::move(layout), givens, {}}};
 }
 

@@ -53,6 +53,11 @@ class OpenFile {
   int file_;
 };
 
+bool Write(const std::string& path, const std::string& text, SystemCalls& system) {
+  OpenFile file(system, path, O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW);
+  return file.IsOpen() && file.Write(text);
+}
+
 }  // namespace
 
 std::string GameKeeper::Folder() const {
@@ -72,12 +77,9 @@ std::optional<std::string> GameKeeper::Keep(const PuzzleRecord& puzzle, const Po
   if (folder != programPath_) MakeFolder(folder, system_);
   const std::string path = folder + kGameFileName;
   const std::string next = path + '.' + std::to_string(getpid());
-  bool isWritten = false;
-  {
-    OpenFile file(system_, next, O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW);
-    isWritten = file.IsOpen() && file.Write(TextOf(puzzle, position, history));
-  }
-  if (isWritten && system_.Rename(next.c_str(), path.c_str()) == 0) return std::nullopt;
+  if (Write(next, TextOf(puzzle, position, history), system_) &&
+      system_.Rename(next.c_str(), path.c_str()) == 0)
+    return std::nullopt;
   const std::string error = LastError();
   system_.Unlink(next.c_str());
   return "The game could not be kept in " + path + ": " + error;

@@ -42,6 +42,22 @@ class RunningCommandScope {
   Form& form_;
 };
 
+void Clear(Form& form, int cell) {
+  form.SetCellText(cell, 0);
+  form.SetCellOpaque(cell, false);
+  form.SetMarksColour(cell, kBlack);
+}
+
+PuzzleRecord RecordOf(const GameState& state) {
+  PuzzleRecord record;
+  for (int cell = 0; cell < kCellCount; ++cell) {
+    record.Board[cell] = static_cast<std::uint8_t>(state.Puzzle[cell]);
+    record.Solution[cell] = static_cast<std::uint8_t>(state.WorkGrid[cell]);
+    record.CageMap[cell] = static_cast<std::uint8_t>(state.CageOfCell[cell]);
+  }
+  return record;
+}
+
 }  // namespace
 
 GenerationCommands::GenerationCommands(GameState& state, Form& form, View& view, Clock& clock,
@@ -64,11 +80,7 @@ void GenerationCommands::CommandSaw_Click() {
 }
 
 void GenerationCommands::RunSaw() {
-  for (int cell = 0; cell < kCellCount; ++cell) {
-    form_.SetCellText(cell, 0);
-    form_.SetCellOpaque(cell, false);
-    form_.SetMarksColour(cell, kBlack);
-  }
+  for (int cell = 0; cell < kCellCount; ++cell) Clear(form_, cell);
   StartStopwatch(state_, clock_);
   Sawing sawing(state_, form_, view_, random_, clock_, solver::CanBeFilled);
   if (form_.Checked(CheckBox::MakeRegular)) {
@@ -122,11 +134,7 @@ std::string GenerationCommands::PuzzleFilePath() const {
 
 // A puzzle that cannot be saved can be solved all the same; the foot of the window tells.
 void GenerationCommands::SaveTessel() {
-  for (int cell = 0; cell < kCellCount; ++cell) {
-    state_.SavedPuzzle.Board[cell] = static_cast<std::uint8_t>(state_.Puzzle[cell]);
-    state_.SavedPuzzle.Solution[cell] = static_cast<std::uint8_t>(state_.WorkGrid[cell]);
-    state_.SavedPuzzle.CageMap[cell] = static_cast<std::uint8_t>(state_.CageOfCell[cell]);
-  }
+  state_.SavedPuzzle = RecordOf(state_);
   const std::string folder = PuzzleFolder(state_.ProgramPath, userFolder_, system_);
   if (folder != state_.ProgramPath) MakeFolder(folder, system_);
   const std::string path = folder + kPuzzleFileName;

@@ -26,6 +26,15 @@ struct OpenFile {
   int descriptor;
 };
 
+// Nothing where the file cannot be read any more.
+std::size_t Read(const OpenFile& file, std::span<char> bytes) {
+  ssize_t count = -1;
+  do {
+    count = read(file.descriptor, bytes.data(), bytes.size());
+  } while (count < 0 && errno == EINTR);
+  return static_cast<std::size_t>(std::max<ssize_t>(count, 0));
+}
+
 tl::unexpected<std::string> CannotRead(const std::string& path, const std::string& why) {
   return tl::unexpected("cannot read " + path + ": " + why);
 }
@@ -49,13 +58,7 @@ tl::expected<formats::ByteSource, std::string> FileSource(const std::string& pat
     return CannotRead(path, std::generic_category().message(errno));
   }
   if (!S_ISREG(status.st_mode)) return CannotRead(path, "Not a regular file");
-  return [file](std::span<char> bytes) {
-    ssize_t count = -1;
-    do {
-      count = read(file->descriptor, bytes.data(), bytes.size());
-    } while (count < 0 && errno == EINTR);
-    return static_cast<std::size_t>(std::max<ssize_t>(count, 0));
-  };
+  return [file](std::span<char> bytes) { return Read(*file, bytes); };
 }
 
 formats::ByteSource TextSource(std::string text) {

@@ -87,6 +87,13 @@ class Checking {
   bool allHold_ = true;
 };
 
+void ReadLayouts(Options& options) {
+  if (options.minimal || options.solve || !options.input.from.empty()) {
+    throw WrongOptions("--layout goes with no other option");
+  }
+  options.input.only = &formats::kLayoutLine;
+}
+
 }  // namespace
 
 Work DeclareCheck(CLI::App& app) {
@@ -97,10 +104,7 @@ Work DeclareCheck(CLI::App& app) {
   app.add_flag("--minimal", options->minimal, "Tell which givens could go");
   app.add_flag("--solve", options->solve, "Tell the solution");
   return [options] {
-    if (options->layout && (options->minimal || options->solve || !options->input.from.empty())) {
-      throw WrongOptions("--layout goes with no other option");
-    }
-    if (options->layout) options->input.only = &formats::kLayoutLine;
+    if (options->layout) ReadLayouts(*options);
     return Checking(*options).Run();
   };
 }

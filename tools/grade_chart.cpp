@@ -22,12 +22,7 @@ double Percent(std::uint64_t part, std::uint64_t whole) {
   return whole == 0 ? 0 : 100.0 * static_cast<double>(part) / static_cast<double>(whole);
 }
 
-}  // namespace
-
-std::string ChartOf(const GradeSummary& summary) {
-  std::ostringstream chart;
-  chart << std::fixed << std::setprecision(1);
-  chart << summary.puzzles << (summary.puzzles == 1 ? " puzzle\n" : " puzzles\n");
+void AddLevels(std::ostream& chart, const GradeSummary& summary) {
   const std::uint64_t most = *std::ranges::max_element(summary.levels);
   for (int level = 1; level <= kLevelCount; ++level) {
     const std::uint64_t count = summary.levels[static_cast<std::size_t>(level) - 1];
@@ -35,6 +30,9 @@ std::string ChartOf(const GradeSummary& summary) {
           << std::right << std::setw(9) << count << std::setw(6) << Percent(count, summary.puzzles)
           << " %" << (count == 0 ? "" : "  ") << Bar(count, most) << "\n";
   }
+}
+
+void AddKinds(std::ostream& chart, const GradeSummary& summary) {
   chart << "steps                          puzzles            steps\n";
   for (const StepKindFacts& facts : kStepKinds) {
     const GradeSummary::OfKind& kind = summary.kinds[static_cast<std::size_t>(facts.kind)];
@@ -42,6 +40,16 @@ std::string ChartOf(const GradeSummary& summary) {
           << kind.puzzles << std::setw(6) << Percent(kind.puzzles, summary.puzzles) << " %"
           << std::setw(9) << kind.steps << "\n";
   }
+}
+
+}  // namespace
+
+std::string ChartOf(const GradeSummary& summary) {
+  std::ostringstream chart;
+  chart << std::fixed << std::setprecision(1);
+  chart << summary.puzzles << (summary.puzzles == 1 ? " puzzle\n" : " puzzles\n");
+  AddLevels(chart, summary);
+  AddKinds(chart, summary);
   return chart.str();
 }
 

@@ -134,18 +134,41 @@ Histogram HistogramOf(const GradeSummary& summary) {
   return histogram;
 }
 
-// A column for each bin, a piece of it for each level, the easiest at its foot.
+// A piece for each level, the easiest at the foot.
+void DrawColumn(Page& page, double x, double width, const Bin& counts, double puzzleHeight) {
+  double y = kBottom;
+  for (std::size_t level = 0; level < kLevelCount; ++level) {
+    const double height = puzzleHeight * static_cast<double>(counts[level]);
+    if (height == 0) continue;
+    y -= height;
+    page.Box(x + 0.5, y, width - 1, height, kColours[level]);
+  }
+}
+
 void DrawColumns(Page& page, const Histogram& histogram, double pointWidth, double puzzleHeight) {
   for (std::size_t i = 0; i < histogram.bins.size(); ++i) {
     const double width = pointWidth * histogram.width;
     const double x = kLeft + width * static_cast<double>(i);
-    double y = kBottom;
-    for (std::size_t level = 0; level < kLevelCount; ++level) {
-      const double height = puzzleHeight * static_cast<double>(histogram.bins[i][level]);
-      if (height == 0) continue;
-      y -= height;
-      page.Box(x + 0.5, y, width - 1, height, kColours[level]);
-    }
+    DrawColumn(page, x, width, histogram.bins[i], puzzleHeight);
+  }
+}
+
+void DrawPuzzleScale(Page& page, double highest, double puzzleHeight) {
+  const int step = RoundStep(highest / 5);
+  for (int puzzles = 0; puzzles <= highest; puzzles += step) {
+    const double y = kBottom - puzzleHeight * puzzles;
+    page.Line(kLeft, y, kRight, y, "#ddd");
+    page.Text(kLeft - 10, y + 4, "end", std::to_string(puzzles), 12);
+  }
+}
+
+void DrawScoreScale(Page& page, double lastScore, double pointWidth) {
+  page.Line(kLeft, kBottom, kRight, kBottom, "#222");
+  const int step = RoundStep(lastScore / 8);
+  for (int score = 0; score <= lastScore; score += step) {
+    const double x = kLeft + pointWidth * score;
+    page.Line(x, kBottom, x, kBottom + 5, "#222");
+    page.Text(x, kBottom + 20, "middle", std::to_string(score), 12);
   }
 }
 
@@ -154,20 +177,9 @@ void DrawScores(Page& page, const Histogram& histogram) {
   const double pointWidth = (kRight - kLeft) / lastScore;
   const auto highest = static_cast<double>(histogram.Highest());
   const double puzzleHeight = (kBottom - kTop) / highest;
-  const int puzzleStep = RoundStep(highest / 5);
-  for (int puzzles = 0; puzzles <= highest; puzzles += puzzleStep) {
-    const double y = kBottom - puzzleHeight * puzzles;
-    page.Line(kLeft, y, kRight, y, "#ddd");
-    page.Text(kLeft - 10, y + 4, "end", std::to_string(puzzles), 12);
-  }
+  DrawPuzzleScale(page, highest, puzzleHeight);
   DrawColumns(page, histogram, pointWidth, puzzleHeight);
-  page.Line(kLeft, kBottom, kRight, kBottom, "#222");
-  const int scoreStep = RoundStep(lastScore / 8);
-  for (int score = 0; score <= lastScore; score += scoreStep) {
-    const double x = kLeft + pointWidth * score;
-    page.Line(x, kBottom, x, kBottom + 5, "#222");
-    page.Text(x, kBottom + 20, "middle", std::to_string(score), 12);
-  }
+  DrawScoreScale(page, lastScore, pointWidth);
 }
 
 }  // namespace

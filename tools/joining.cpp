@@ -36,19 +36,22 @@ std::vector<ShardFile> ReadShards(const std::vector<std::string>& paths) {
   return shards;
 }
 
+void RequireSameRun(const ShardFile& a, const ShardFile& b) {
+  if (a.manifest.run == b.manifest.run && a.count == b.count) return;
+  throw Failure(a.manifestPath + " and " + b.manifestPath + " belong to different runs");
+}
+
+void RequireOtherShard(const ShardFile& a, const ShardFile& b) {
+  if (a.number != b.number) return;
+  throw Failure(a.manifestPath + " and " + b.manifestPath + " tell of the same shard");
+}
+
 void RequireOneWholeRun(const std::vector<ShardFile>& shards) {
   const ShardFile& first = shards.front();
   for (std::size_t i = 0; i < shards.size(); ++i) {
-    const ShardFile& shard = shards[i];
-    if (shard.manifest.run != first.manifest.run || shard.count != first.count) {
-      throw Failure(shard.manifestPath + " and " + first.manifestPath +
-                    " belong to different runs");
-    }
-    if (i > 0 && shard.number == shards[i - 1].number) {
-      throw Failure(shard.manifestPath + " and " + shards[i - 1].manifestPath +
-                    " tell of the same shard");
-    }
-    if (shard.number != i) break;
+    RequireSameRun(shards[i], first);
+    if (i > 0) RequireOtherShard(shards[i], shards[i - 1]);
+    if (shards[i].number != i) break;
   }
   for (std::uint64_t number = 0; number < first.count; ++number) {
     if (number < shards.size() && shards[number].number == number) continue;
@@ -97,6 +100,19 @@ void CheckAll(const std::vector<ShardFile>& shards) {
   for (const ShardFile& shard : shards) Append(shard, nowhere, ignored);
 }
 
+// Without the output's name and hash.
+Manifest ManifestOfAll(const std::vector<ShardFile>& shards) {
+  Manifest whole = shards.front().manifest;
+  whole.shard.reset();
+  whole.tally = {};
+  whole.output = {};
+  for (const ShardFile& shard : shards) {
+    whole.tally.Add(shard.manifest.tally);
+    whole.output.bytes += shard.manifest.output.bytes;
+  }
+  return whole;
+}
+
 }  // namespace
 
 void Join(const JoinOptions& options) {
@@ -106,15 +122,8 @@ void Join(const JoinOptions& options) {
   if (options.output == "-") CheckAll(shards);
   Output output(options.output);
   Sha256 hash;
-  Manifest whole = shards.front().manifest;
-  whole.shard.reset();
-  whole.tally = {};
-  whole.output = {};
-  for (const ShardFile& shard : shards) {
-    Append(shard, output, hash);
-    whole.tally.Add(shard.manifest.tally);
-    whole.output.bytes += shard.manifest.output.bytes;
-  }
+  for (const ShardFile& shard : shards) Append(shard, output, hash);
+  Manifest whole = ManifestOfAll(shards);
   whole.output.sha256 = hash.Hex();
   whole.outputFile = OutputFileBeside(options.manifest, options.output);
   output.Finish();

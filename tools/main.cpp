@@ -47,15 +47,19 @@ int Run(const std::string& who, const Work& work) {
   }
 }
 
-// Help and version go to standard output, as what was asked for.
+// Help and version, which go to standard output.
+int TellWhatWasAsked(const CLI::App& app, const CLI::ParseError& error) {
+  return Run(NameOf(app), [&] {
+    std::ostringstream text;
+    app.exit(error, text, text);
+    WriteToStandardOutput(text.str());
+    return kDone;
+  });
+}
+
 int TellParsing(const CLI::App& app, const CLI::ParseError& error) {
   if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success)) {
-    return Run(NameOf(app), [&] {
-      std::ostringstream text;
-      app.exit(error, text, text);
-      WriteToStandardOutput(text.str());
-      return kDone;
-    });
+    return TellWhatWasAsked(app, error);
   }
   const std::string name = NameOf(app);
   if (app.get_subcommands().empty() && !app.remaining().empty()) {

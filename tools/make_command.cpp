@@ -10,17 +10,24 @@
 
 namespace tessel::tools {
 
+namespace {
+
+void Make(const MakeOptions& options) {
+  if (options.ownSeed && !options.quiet) std::cerr << "seed " << options.order.seed << "\n";
+  Making(options).Run();
+}
+
+}  // namespace
+
 Work DeclareMake(CLI::App& app) {
   const auto parser = std::make_shared<MakeOptionParser>(app);
   return [parser] {
     HeedStopSignals();
     if (parser->Joins()) {
       Join(parser->CheckedJoin());
-      return kDone;
+    } else {
+      Make(parser->Checked());
     }
-    const MakeOptions options = parser->Checked();
-    if (options.ownSeed && !options.quiet) std::cerr << "seed " << options.order.seed << "\n";
-    Making(options).Run();
     return kDone;
   };
 }

@@ -29,6 +29,7 @@ MakeOptionParser::MakeOptionParser(CLI::App& app) : app_(app) {
   DeclareRecipe(app);
   DeclareWish(app);
   DeclareForm(app);
+  DeclareOutput(app);
   DeclareWork(app);
 }
 
@@ -81,11 +82,7 @@ void MakeOptionParser::DeclareForm(CLI::App& app) {
   app.add_flag("--grade", grade_, "Grade every puzzle, for the columns and the manifest");
 }
 
-void MakeOptionParser::DeclareWork(CLI::App& app) {
-  constexpr int mostJobs = 1024;
-  app.add_option("--jobs", jobs_, "Threads (default: one for each processor)")
-      ->check(CLI::Range(1, mostJobs))
-      ->type_name("J");
+void MakeOptionParser::DeclareOutput(CLI::App& app) {
   withJoin_.push_back(
       app.add_option("--output", output_, "The file to write; - is standard output (default)")
           ->type_name("FILE"));
@@ -93,6 +90,13 @@ void MakeOptionParser::DeclareWork(CLI::App& app) {
   withJoin_.push_back(
       app.add_option("--manifest", manifest_, "Write what was made into this JSON file")
           ->type_name("FILE"));
+}
+
+void MakeOptionParser::DeclareWork(CLI::App& app) {
+  constexpr int mostJobs = 1024;
+  app.add_option("--jobs", jobs_, "Threads (default: one for each processor)")
+      ->check(CLI::Range(1, mostJobs))
+      ->type_name("J");
   withJoin_.push_back(app.add_flag("--quiet", quiet_, "Tell nothing but errors"));
   withJoin_.push_back(
       app.add_option("--join", join_, "Put together the shards that these manifests tell of")

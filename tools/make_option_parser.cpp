@@ -28,19 +28,27 @@ int JobsOnThisMachine() {
 
 void MakeOptionParser::RefuseContradictions() const {
   if (want_ && tries_) throw WrongOptions("--want and --tries exclude each other");
-  if (!shard_.empty() && !tries_) throw WrongOptions("--shard takes a slice of --tries");
-  if (!shard_.empty() && !seed_) throw WrongOptions("--shard needs the --seed of all the shards");
-  if (!shard_.empty() && unique_) {
-    throw WrongOptions("--unique and --shard exclude each other: a shard cannot see the others");
-  }
-  if (givens_ && minimal_) throw WrongOptions("--givens and --minimal exclude each other");
-  if (minimal_ && conceal_ == "pairs") {
-    throw WrongOptions("--minimal takes cells one by one, and does not go with --conceal pairs");
-  }
+  if (!shard_.empty()) RefuseUnfitForShard();
+  if (minimal_) RefuseUnfitForMinimal();
   if (resume_ && output_ == "-") throw WrongOptions("--resume needs --output FILE");
   if (resume_ && !seed_) throw WrongOptions("--resume needs the --seed of the run");
   if (format_ == "sds" && output_ == "-" && isatty(STDOUT_FILENO) != 0) {
     throw WrongOptions("--format sds is not for a terminal: name an --output");
+  }
+}
+
+void MakeOptionParser::RefuseUnfitForShard() const {
+  if (!tries_) throw WrongOptions("--shard takes a slice of --tries");
+  if (!seed_) throw WrongOptions("--shard needs the --seed of all the shards");
+  if (unique_) {
+    throw WrongOptions("--unique and --shard exclude each other: a shard cannot see the others");
+  }
+}
+
+void MakeOptionParser::RefuseUnfitForMinimal() const {
+  if (givens_) throw WrongOptions("--givens and --minimal exclude each other");
+  if (conceal_ == "pairs") {
+    throw WrongOptions("--minimal takes cells one by one, and does not go with --conceal pairs");
   }
 }
 
@@ -91,18 +99,20 @@ void MakeOptionParser::SetScores(maker::Wish& wish) const {
   wish.highestScore = scores->second;
 }
 
+void MakeOptionParser::SetStep(maker::Wish& wish) const {
+  if (step_.empty()) return;
+  wish.step = grade::StepKindNamed(step_);
+  if (wish.step) return;
+  std::string keys;
+  for (const auto& facts : grade::kStepKinds) keys += " " + std::string(facts.key);
+  throw WrongOptions("there is no kind of step '" + step_ + "', but there are:" + keys);
+}
+
 maker::Wish MakeOptionParser::CheckedWish() const {
   maker::Wish wish;
   SetLevels(wish);
   SetScores(wish);
-  if (!step_.empty()) {
-    wish.step = grade::StepKindNamed(step_);
-    if (!wish.step) {
-      std::string keys;
-      for (const auto& facts : grade::kStepKinds) keys += " " + std::string(facts.key);
-      throw WrongOptions("there is no kind of step '" + step_ + "', but there are:" + keys);
-    }
-  }
+  SetStep(wish);
   wish.mostGivens = givens_;
   return wish;
 }

@@ -31,14 +31,18 @@ class MakeOptionParser {
   void DeclareRecipe(CLI::App& app);
   void DeclareWish(CLI::App& app);
   void DeclareForm(CLI::App& app);
+  void DeclareOutput(CLI::App& app);
   void DeclareWork(CLI::App& app);
   void RefuseContradictions() const;
+  void RefuseUnfitForShard() const;
+  void RefuseUnfitForMinimal() const;
   void RefuseBadRanges() const;
   std::optional<Shard> CheckedShard() const;
   maker::Recipe CheckedRecipe() const;
   maker::Wish CheckedWish() const;
   void SetLevels(maker::Wish& wish) const;
   void SetScores(maker::Wish& wish) const;
+  void SetStep(maker::Wish& wish) const;
   bool ShowsGrades() const;
 
   const CLI::App& app_;

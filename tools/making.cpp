@@ -56,6 +56,15 @@ Manifest ManifestOfSameRun(const std::string& path, const MakeOptions& options) 
   return manifest;
 }
 
+// Which puzzles are repeats is known only from all those before: they are made again, and found in
+// the output as they are.
+Manifest BeforeTheFirst(Manifest manifest, std::uint64_t first) {
+  manifest.tally = {};
+  manifest.tally.next = first;
+  manifest.output = {manifest.output.offset, 0, Sha256().Hex()};
+  return manifest;
+}
+
 }  // namespace
 
 Making::Making(const MakeOptions& options)
@@ -88,13 +97,7 @@ void Making::Begin() {
 
 void Making::Resume(const std::string& manifest) {
   Manifest earlier = ManifestOfSameRun(manifest, options_);
-  if (options_.unique) {
-    // Which puzzles are repeats is known only from all those before: they are made again, and found
-    // in the output as they are.
-    earlier.tally = {};
-    earlier.tally.next = range_.first;
-    earlier.output = {earlier.output.offset, 0, Sha256().Hex()};
-  }
+  if (options_.unique) earlier = BeforeTheFirst(std::move(earlier), range_.first);
   tally_ = earlier.tally;
   standing_ = tally_.accepted;
   output_ = std::make_unique<RecordOutput>(options_.output, SharingOf(options_), earlier.output);
@@ -121,12 +124,7 @@ void Making::MakeAll() {
   };
   maker::InOrder<Batch> work(batches, options_.jobs, [&] {
     return [&, maker = maker::BatchMaker(options_.order)](std::uint64_t number) mutable {
-      const std::uint64_t begin = first + number * size;
-      Batch batch;
-      for (const maker::Made& made : maker.Make(begin, endOf(number) - begin)) {
-        batch.push_back(MakeRecordOf(made, options_));
-      }
-      return batch;
+      return RecordsOf(maker, first + number * size, endOf(number));
     };
   });
   for (std::uint64_t batch = 0; StopSignal() == 0 && !Enough(); LookAbout()) {
@@ -135,6 +133,15 @@ void Making::MakeAll() {
     if (!taken.result) break;
     Take(*taken.result, endOf(batch++));
   }
+}
+
+Making::Batch Making::RecordsOf(maker::BatchMaker& maker, std::uint64_t begin,
+                                std::uint64_t end) const {
+  Batch batch;
+  for (const maker::Made& made : maker.Make(begin, end - begin)) {
+    batch.push_back(MakeRecordOf(made, options_));
+  }
+  return batch;
 }
 
 bool Making::Enough() const {

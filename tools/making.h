@@ -35,6 +35,8 @@ class Making {
   void Begin();
   void Resume(const std::string& manifest);
   void MakeAll();
+  // The records of the puzzles begin..end-1; for several threads at once.
+  Batch RecordsOf(maker::BatchMaker& maker, std::uint64_t begin, std::uint64_t end) const;
   bool Enough() const;
   void Take(const Batch& batch, std::uint64_t end);
   void TakeOne(const MakeRecord& record);

@@ -23,6 +23,10 @@ std::string LevelName(std::size_t number) {
   return std::string(grade::NameOf(static_cast<grade::Level>(number + 1)));
 }
 
+std::string StepName(std::size_t number) {
+  return std::string(kStepKinds[number].key);
+}
+
 Json WishAsJson(const maker::Wish& wish) {
   Json json = Json::object();
   const maker::Wish any;
@@ -37,22 +41,31 @@ Json WishAsJson(const maker::Wish& wish) {
   return json;
 }
 
-Json AsJson(const Tally& tally, std::uint64_t first) {
+// Counts by the names that `nameOf` gives to their indices.
+template <typename Counts, typename NameOf>
+Json CountsAsJson(const Counts& counts, NameOf nameOf) {
   Json json;
-  json["first"] = first;
-  json["next"] = tally.next;
-  json["tries"] = tally.next - first;
-  json["accepted"] = tally.accepted;
-  json["repeats"] = tally.repeats;
-  for (std::size_t i = 0; i < tally.levels.size(); ++i) {
-    json["levels"][LevelName(i)] = tally.levels[i];
-  }
-  for (std::size_t i = 0; i < kStepKinds.size(); ++i) {
-    json["puzzles_with"][std::string(kStepKinds[i].key)] = tally.puzzles[i];
-  }
-  json["processor_seconds"] = tally.processorSeconds;
-  json["wall_seconds"] = tally.wallSeconds;
+  for (std::size_t i = 0; i < counts.size(); ++i) json[nameOf(i)] = counts[i];
   return json;
+}
+
+template <typename Counts, typename NameOf>
+Counts CountsIn(const Json& json, NameOf nameOf) {
+  Counts counts;
+  for (std::size_t i = 0; i < counts.size(); ++i) counts[i] = json.at(nameOf(i));
+  return counts;
+}
+
+Json AsJson(const Tally& tally, std::uint64_t first) {
+  return {{"first", first},
+          {"next", tally.next},
+          {"tries", tally.next - first},
+          {"accepted", tally.accepted},
+          {"repeats", tally.repeats},
+          {"levels", CountsAsJson(tally.levels, LevelName)},
+          {"puzzles_with", CountsAsJson(tally.puzzles, StepName)},
+          {"processor_seconds", tally.processorSeconds},
+          {"wall_seconds", tally.wallSeconds}};
 }
 
 Tally TallyIn(const Json& json) {
@@ -60,15 +73,18 @@ Tally TallyIn(const Json& json) {
   tally.next = json.at("next");
   tally.accepted = json.at("accepted");
   tally.repeats = json.at("repeats");
-  for (std::size_t i = 0; i < tally.levels.size(); ++i) {
-    tally.levels[i] = json.at("levels").at(LevelName(i));
-  }
-  for (std::size_t i = 0; i < kStepKinds.size(); ++i) {
-    tally.puzzles[i] = json.at("puzzles_with").at(std::string(kStepKinds[i].key));
-  }
+  tally.levels = CountsIn<decltype(tally.levels)>(json.at("levels"), LevelName);
+  tally.puzzles = CountsIn<decltype(tally.puzzles)>(json.at("puzzles_with"), StepName);
   tally.processorSeconds = json.at("processor_seconds");
   tally.wallSeconds = json.at("wall_seconds");
   return tally;
+}
+
+Json OutputAsJson(const Manifest& manifest) {
+  return {{"file", manifest.outputFile},
+          {"offset", manifest.output.offset},
+          {"bytes", manifest.output.bytes},
+          {"sha256", manifest.output.sha256}};
 }
 
 Json AsJson(const Manifest& manifest) {
@@ -79,10 +95,7 @@ Json AsJson(const Manifest& manifest) {
   if (manifest.shard) json["shard"] = {manifest.shard->number, manifest.shard->count};
   json["complete"] = manifest.complete;
   json["made"] = AsJson(manifest.tally, manifest.first);
-  json["output"] = {{"file", manifest.outputFile},
-                    {"offset", manifest.output.offset},
-                    {"bytes", manifest.output.bytes},
-                    {"sha256", manifest.output.sha256}};
+  json["output"] = OutputAsJson(manifest);
   return json;
 }
 

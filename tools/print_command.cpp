@@ -80,22 +80,27 @@ void PrintBooklet(const PrintOptions& options, const std::vector<BookletPuzzle>&
 }
 
 // "board.svg" for the only puzzle, else "board-7.svg".
-std::string PicturePath(const std::filesystem::path& path, std::size_t puzzles,
-                        std::size_t number) {
+std::string PicturePath(const PrintOptions& options, std::size_t puzzles, std::size_t k) {
+  const std::filesystem::path path = options.output;
   if (puzzles == 1) return path.string();
+  const std::size_t number = static_cast<std::size_t>(options.numberFrom) + k;
   const std::string name =
       path.stem().string() + "-" + std::to_string(number) + path.extension().string();
   return (path.parent_path() / name).string();
+}
+
+paper::BoardPicture PictureOf(const Puzzle& puzzle, bool marks) {
+  paper::BoardPicture picture = paper::PictureOfGivens(puzzle);
+  if (marks) picture.marks = paper::PencilMarksOf(picture.layout, picture.digits);
+  return picture;
 }
 
 void PrintPictures(const PrintOptions& options, const std::vector<BookletPuzzle>& puzzles,
                    bool svg) {
   const paper::BoardStyle style = options.Picture();
   for (std::size_t k = 0; k < puzzles.size() && StopSignal() == 0; ++k) {
-    paper::BoardPicture picture = paper::PictureOfGivens(puzzles[k].puzzle);
-    if (options.marks) picture.marks = paper::PencilMarksOf(picture.layout, picture.digits);
-    const auto number = static_cast<std::size_t>(options.numberFrom) + k;
-    const std::string path = PicturePath(options.output, puzzles.size(), number);
+    const paper::BoardPicture picture = PictureOf(puzzles[k].puzzle, options.marks);
+    const std::string path = PicturePath(options, puzzles.size(), k);
     WriteDocument(path, ExistingFiles(options), [&](const paper::Sink& sink) {
       return svg ? paper::WriteSvg(picture, style, sink)
                  : paper::WritePng(picture, style, options.pixelsPerInch, sink);

@@ -61,6 +61,10 @@ void ProgressLine::Show(const Tally& tally, std::uint64_t done) {
   if (!doneAtStart_) doneAtStart_ = done;
   if (!shown_ || now < next_) return;
   next_ = now + kRedrawTime;
+  std::cerr << kEraseLine << HowFar(done, now) << LevelsOf(tally) << std::flush;
+}
+
+std::string ProgressLine::HowFar(std::uint64_t done, Clock::time_point now) const {
   const double seconds = std::chrono::duration<double>(now - start_).count();
   const double rate = static_cast<double>(done - *doneAtStart_) / std::max(seconds, 1e-9);
   const double share = goal_ == 0 ? 1 : static_cast<double>(done) / static_cast<double>(goal_);
@@ -68,7 +72,7 @@ void ProgressLine::Show(const Tally& tally, std::uint64_t done) {
                      std::to_string(goal_) + (countsPuzzles_ ? "" : " tried") + ", " +
                      std::to_string(std::llround(rate)) + "/s";
   if (rate > 0) line += ", " + SpokenTime(static_cast<double>(goal_ - done) / rate) + " left";
-  std::cerr << kEraseLine << line << LevelsOf(tally) << std::flush;
+  return line;
 }
 
 void ProgressLine::Say(const std::string& text) {

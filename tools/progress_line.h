@@ -25,6 +25,9 @@ class ProgressLine {
  private:
   using Clock = std::chrono::steady_clock;
 
+  // "[#####.....] 50 of 100, 7/s, 7 s left"
+  std::string HowFar(std::uint64_t done, Clock::time_point now) const;
+
   bool quiet_;
   bool shown_;
   bool countsPuzzles_;

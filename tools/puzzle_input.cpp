@@ -33,6 +33,15 @@ struct OpenFile {
   int descriptor;
 };
 
+std::size_t Read(const OpenFile& open, std::span<char> bytes, const std::string& file) {
+  while (true) {
+    const ssize_t count = read(open.descriptor, bytes.data(), bytes.size());
+    if (count >= 0) return static_cast<std::size_t>(count);
+    if (errno != EINTR) throw SystemFailure("cannot read " + NameOf(file));
+    StopIfAsked();
+  }
+}
+
 std::set<std::string> ReadFormats() {
   std::set<std::string> names;
   for (const formats::Format& format : formats::AllFormats()) {
@@ -46,14 +55,7 @@ class Visiting {
   Visiting(const PuzzleInput& input, const PuzzleVisitor& visit) : input_(input), visit_(visit) {}
 
   bool All() {
-    for (const std::string& file : input_.files) {
-      try {
-        Visit(file);
-      } catch (const Failure& failure) {
-        std::cerr << failure.what() << "\n";
-        ++faults_;
-      }
-    }
+    for (const std::string& file : input_.files) VisitOrTell(file);
     if (faults_ > kMaxFaultsTold) {
       std::cerr << "... and " << faults_ - kMaxFaultsTold << " more\n";
     }
@@ -61,6 +63,15 @@ class Visiting {
   }
 
  private:
+  void VisitOrTell(const std::string& file) {
+    try {
+      Visit(file);
+    } catch (const Failure& failure) {
+      std::cerr << failure.what() << "\n";
+      ++faults_;
+    }
+  }
+
   void Visit(const std::string& file) {
     formats::PuzzleReader reader(OpenInput(file), Format());
     while (auto next = reader.Next()) {
@@ -103,14 +114,7 @@ formats::ByteSource OpenInput(const std::string& file) {
   const int descriptor = file == "-" ? STDIN_FILENO : open(file.c_str(), O_RDONLY | O_CLOEXEC);
   if (descriptor < 0) throw SystemFailure("cannot read " + file);
   const auto open = std::make_shared<OpenFile>(descriptor);
-  return [open, file](std::span<char> bytes) {
-    while (true) {
-      const ssize_t count = read(open->descriptor, bytes.data(), bytes.size());
-      if (count >= 0) return static_cast<std::size_t>(count);
-      if (errno != EINTR) throw SystemFailure("cannot read " + NameOf(file));
-      StopIfAsked();
-    }
-  };
+  return [open, file](std::span<char> bytes) { return Read(*open, bytes, file); };
 }
 
 bool ForEachPuzzle(const PuzzleInput& input, const PuzzleVisitor& visit) {

@@ -38,12 +38,10 @@ RecordOutput::RecordOutput(const std::string& path, Sharing sharing)
     file_ = STDOUT_FILENO;
     return;
   }
-  // A device or a pipe is written to as it comes.
-  const bool opened = IsOtherThanFile(path) ? Open(O_WRONLY)
-                      : isShared_           ? Open(O_RDWR | O_CREAT)
-                                            : Open(O_RDWR | O_CREAT | O_EXCL);
-  if (!opened && errno == EEXIST) throw Failure(path_ + " exists already");
-  if (!opened) throw SystemFailure("cannot write " + path_);
+  if (!OpenNew()) {
+    throw errno == EEXIST ? Failure(path_ + " exists already")
+                          : SystemFailure("cannot write " + path_);
+  }
   if (!isFile_ || !isShared_) return;
   const FileLock lock(file_, path_);
   offset_ = EndOfRecords(LengthOf(file_, path_));
@@ -60,6 +58,12 @@ RecordOutput::~RecordOutput() {
   if (file_ >= 0 && file_ != STDOUT_FILENO) close(file_);
 }
 
+// A device or a pipe is written to as it comes.
+bool RecordOutput::OpenNew() {
+  if (IsOtherThanFile(path_)) return Open(O_WRONLY);
+  return Open(isShared_ ? O_RDWR | O_CREAT : O_RDWR | O_CREAT | O_EXCL);
+}
+
 bool RecordOutput::Open(int flags) {
   file_ = open(path_.c_str(), flags | O_CLOEXEC, kNewFileMode);
   struct stat status {};
@@ -68,16 +72,20 @@ bool RecordOutput::Open(int flags) {
   return true;
 }
 
-void RecordOutput::CheckEarlier(const Done& done) {
-  offset_ = done.offset;
+void RecordOutput::ReadEarlier(std::uint64_t end) {
   constexpr std::size_t step = std::size_t{1} << 20;
-  while (bytes_ < done.bytes) {
-    const auto size = static_cast<std::size_t>(std::min<std::uint64_t>(step, done.bytes - bytes_));
+  while (bytes_ < end) {
+    const auto size = static_cast<std::size_t>(std::min<std::uint64_t>(step, end - bytes_));
     const std::string bytes = ReadAt(file_, offset_ + bytes_, size, path_);
     hash_.Add(bytes);
     bytes_ += bytes.size();
-    if (bytes.size() < size) break;
+    if (bytes.size() < size) return;
   }
+}
+
+void RecordOutput::CheckEarlier(const Done& done) {
+  offset_ = done.offset;
+  ReadEarlier(done.bytes);
   if (bytes_ != done.bytes || hash_.Hex() != done.sha256) {
     throw Failure(path_ + " does not hold what this run has written so far");
   }

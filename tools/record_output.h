@@ -40,7 +40,10 @@ class RecordOutput {
   Done SoFar() const { return {offset_, bytes_, hash_.Hex()}; }
 
  private:
+  bool OpenNew();
   bool Open(int flags);
+  // Takes what the file holds up to the byte `end` of the run for written.
+  void ReadEarlier(std::uint64_t end);
   void CheckEarlier(const Done& done);
   std::string_view WithoutWhatStands(std::string_view records);
   void Append(std::string_view records);

@@ -4,8 +4,23 @@
 
 #include <array>
 #include <new>
+#include <span>
 
 namespace tessel::tools {
+
+namespace {
+
+std::string HexOf(std::span<const unsigned char> bytes) {
+  constexpr std::string_view digits = "0123456789abcdef";
+  std::string hex;
+  for (const unsigned char byte : bytes) {
+    hex += digits[byte >> 4];
+    hex += digits[byte & 15];
+  }
+  return hex;
+}
+
+}  // namespace
 
 void Sha256::Free::operator()(evp_md_ctx_st* context) const {
   EVP_MD_CTX_free(context);
@@ -27,13 +42,7 @@ std::string Sha256::Hex() const {
   std::array<unsigned char, EVP_MAX_MD_SIZE> digest;
   unsigned size = 0;
   EVP_DigestFinal_ex(copy.get(), digest.data(), &size);
-  constexpr std::string_view digits = "0123456789abcdef";
-  std::string hex;
-  for (unsigned i = 0; i < size; ++i) {
-    hex += digits[digest[i] >> 4];
-    hex += digits[digest[i] & 15];
-  }
-  return hex;
+  return HexOf(std::span(digest).first(size));
 }
 
 }  // namespace tessel::tools
