@@ -34,6 +34,7 @@ constexpr int kActionsToWarmUp = 240;
 constexpr long kMaxGrowth = 24 * 1024;  // kilobytes since the program was warm
 constexpr auto kIdleTime = 3s;
 constexpr auto kMaxIdleWork = 90ms;  // of processor time in that time
+constexpr auto kLongestCommand = 120s;
 
 constexpr const char* kControls[] = {
     "CommandSaw",     "CommandGo",        "CommandConceal",    "CommandSolve",   "CommandHint",
@@ -104,6 +105,7 @@ class Monkey {
   testing::AssertionResult RepaintsInTime();
   testing::AssertionResult KeepsItsMemory();
   testing::AssertionResult RestsWhileIdle();
+  std::chrono::milliseconds WorkInIdleTime();
 
   TemporaryFolder folder_;
   RandomStream random_;
@@ -233,12 +235,20 @@ testing::AssertionResult Monkey::KeepsItsMemory() {
          << "grew from " << *warmKilobytes_ << " to " << lastKilobytes_ << " kB";
 }
 
-testing::AssertionResult Monkey::RestsWhileIdle() {
-  if (!Eventually([this] { return IsAtRest(); }, 5s)) return testing::AssertionSuccess();
-  std::this_thread::sleep_for(500ms);
+std::chrono::milliseconds Monkey::WorkInIdleTime() {
   const auto before = UseOf(user_->Program().Id()).processorTime;
   std::this_thread::sleep_for(kIdleTime);
-  const auto work = UseOf(user_->Program().Id()).processorTime - before;
+  return UseOf(user_->Program().Id()).processorTime - before;
+}
+
+// Where the look of the window does not tell that it is at rest, a command may be running, but not
+// for ever.
+testing::AssertionResult Monkey::RestsWhileIdle() {
+  const auto end = Clock::now() + kLongestCommand;
+  const bool isAtRest = Eventually([this] { return IsAtRest(); }, 5s);
+  std::this_thread::sleep_for(500ms);
+  auto work = WorkInIdleTime();
+  while (!isAtRest && work > kMaxIdleWork && Clock::now() < end) work = WorkInIdleTime();
   mostIdleWork_ = std::max(mostIdleWork_, work);
   ++idleTimes_;
   if (work <= kMaxIdleWork) return testing::AssertionSuccess();
