@@ -60,6 +60,13 @@ std::string BytesOf(const Grid& grid) {
   return {grid.begin(), grid.end()};
 }
 
+// The window's program overwrites a tail of less than half a record.
+std::string EndAfter(std::size_t bytes) {
+  const bool isOverwritten = bytes <= kSdsRecordSize / 2;
+  return "the end of the file after " + std::to_string(bytes) +
+         (isOverwritten ? "; the next puzzle saved overwrites them" : "");
+}
+
 }  // namespace
 
 bool LooksLikeSds(std::string_view start) {
@@ -70,8 +77,8 @@ bool LooksLikeSds(std::string_view start) {
 
 Reading ReadSds(std::string_view record) {
   if (record.size() != kSdsRecordSize) {
-    return tl::unexpected(Fault{record.size(), "", "a record of 243 bytes",
-                                "the end of the file after " + std::to_string(record.size())});
+    return tl::unexpected(
+        Fault{record.size(), "", "a record of 243 bytes", EndAfter(record.size())});
   }
   const auto givens = Bytes(record, 0, 0);
   if (!givens) return tl::unexpected(givens.error());

@@ -59,6 +59,18 @@ TEST(PuzzleReader, TellsARecordThatIsCut) {
                   "after 200"}));
 }
 
+TEST(PuzzleReader, TellsWhichTailTheNextPuzzleOverwrites) {
+  const std::string record = ExampleIn("sds");
+  const auto tail = [&](std::size_t bytes) {
+    return Read(record + record.substr(0, bytes)).back();
+  };
+  const std::string overwritten = "; the next puzzle saved overwrites them";
+  for (const std::size_t bytes : {1U, 57U, 121U}) {
+    EXPECT_TRUE(tail(bytes).ends_with("after " + std::to_string(bytes) + overwritten)) << bytes;
+  }
+  EXPECT_TRUE(tail(122).ends_with("after 122"));
+}
+
 TEST(PuzzleReader, SkipsALineThatIsTooLong) {
   const std::string text = std::string(100'000'000, '[') + "\n" + ExampleIn("text");
   const Told told = Read(text);
