@@ -121,7 +121,9 @@ void ControlPanel::GrowHint(double cellSide, QSize spare) {
     hintFont.setPointSizeF(growth * usual);
     textHint_->Fit(hintFont, qFloor(growth * kHintWidthBeside));
   }
-  solveButtons_->updateGeometry();  // which a frame that is hidden does not tell by itself
+  // A frame that is hidden does not tell it by itself, nor a panel whose window is being resized.
+  solveButtons_->updateGeometry();
+  updateGeometry();
 }
 
 void ControlPanel::ArrangeBelow() {

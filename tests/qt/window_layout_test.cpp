@@ -73,5 +73,35 @@ TEST(WindowLayout, ShrinkingLeavesNothingBehind) {
   EXPECT_EQ(grown.Find<QLabel>("TextHint")->geometry(), fresh.Find<QLabel>("TextHint")->geometry());
 }
 
+// Of a program that has gone through these sizes with an open game, with the bar of digits or not.
+std::vector<QRect> PlacesAt(std::initializer_list<QSize> sizes, bool withBar) {
+  WindowProgram program({900, 662});
+  program.OpenPuzzle();
+  if (withBar) program.Find<MenuBar>("MenuBar")->Of(Entry::kDigitBar)->trigger();
+  for (const QSize size : sizes) {
+    program.window.resize(size);
+    QCoreApplication::processEvents();
+  }
+  return {PlaceOf(program, *program.Board()), PlaceOf(program, PanelOf(program)),
+          PlaceOf(program, *program.Find<QLabel>("TextHint"))};
+}
+
+TEST(WindowLayout, DependsOnTheSizeAndNotOnTheOnesBefore) {
+  const QSize usual(900, 662);
+  const QSize screens[] = {{1600, 1200}, {500, 900}};
+  for (const bool withBar : {false, true}) {
+    const auto fresh = PlacesAt({usual}, withBar);
+    for (const QSize screen : screens) {
+      const auto full = PlacesAt({screen}, withBar);
+      EXPECT_NE(full, fresh);
+      EXPECT_EQ(PlacesAt({screen, usual}, withBar), fresh) << screen.width() << withBar;
+      EXPECT_EQ(PlacesAt({screen, usual, screen}, withBar), full) << screen.width() << withBar;
+    }
+    for (std::size_t i = 0; i < fresh.size(); ++i) {
+      EXPECT_EQ(PlacesAt({screens[0]}, true)[i], PlacesAt({screens[0]}, false)[i]) << i;
+    }
+  }
+}
+
 }  // namespace
 }  // namespace tessel
