@@ -14,7 +14,9 @@
 #include "shell/qt/new_puzzle_dialog.h"
 #include "shell/qt/puzzle_list_dialog.h"
 #include "shell/qt/puzzle_output.h"
+#include "shell/qt/screen_fit.h"
 #include "shell/qt/small_board.h"
+#include "shell/qt/view_actions.h"
 
 namespace tessel {
 
@@ -86,6 +88,8 @@ void PuzzleActions::Open() {
   dialog.setObjectName("OpenDialog");
   dialog.setFileMode(QFileDialog::ExistingFile);
   dialog.setOption(QFileDialog::DontUseNativeDialog);
+  dialog.resize(kFileDialogSize);
+  FitOnScreen(dialog);
   if (dialog.exec() != QDialog::Accepted) return;
   const QString path = dialog.selectedFiles().value(0);
   TakeFrom([&] { return FileSource(PathOf(path)); }, path);
@@ -123,7 +127,7 @@ void PuzzleActions::TakeFrom(const Source& source, const QString& where) {
 
 void PuzzleActions::ChooseFrom(const QString& title, formats::ByteSource source,
                                const QString& where) {
-  PuzzleListDialog dialog(title, std::move(source), where, &window_);
+  PuzzleListDialog dialog(title, std::move(source), where, ChosenColours(preferences_), &window_);
   QObject::connect(&dialog, &PuzzleListDialog::PrintWanted, &dialog,
                    [&] { Tell(PrintWithDialog(&dialog, dialog.Chosen())); });
   QObject::connect(&dialog, &PuzzleListDialog::ExportWanted, &dialog,
@@ -149,9 +153,10 @@ void PuzzleActions::ShowRefused(const Puzzle& puzzle, const std::string& verdict
   box.setObjectName("RefusedPuzzle");
   box.setWindowTitle("Tessel Sudoku");
   box.setTextFormat(Qt::PlainText);
-  box.setText("The puzzle is not opened: it must have one solution.");
-  box.setInformativeText("Solutions: " + QString::fromStdString(verdict));
-  box.setIconPixmap(SmallBoard({puzzle.givens, {}, puzzle.layout.Cages()}, kRefusedBoardSide,
+  box.setText("The puzzle is not opened: it must have one solution.\n\nSolutions: " +
+              QString::fromStdString(verdict));
+  box.setIconPixmap(SmallBoard({puzzle.givens, {}, puzzle.layout.Cages()},
+                               ChosenColours(preferences_), kRefusedBoardSide,
                                window_.devicePixelRatioF()));
   box.exec();
 }

@@ -44,7 +44,7 @@ class PuzzleActions {
   MenuBar& menu_;
   QWidget& window_;
   Tessel_Main& logic_;
-  Preferences& preferences_;  // keep what was wished of the last new puzzle
+  Preferences& preferences_;  // what was wished of the last new puzzle, and the colours of boards
   std::function<void()> show_;
   std::function<void()> play_;
 };

@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include "shell/qt/puzzle_list_model.h"
+#include "shell/qt/screen_fit.h"
 #include "shell/qt/small_board.h"
 
 namespace tessel {
@@ -22,7 +23,8 @@ constexpr int kAround = 8;
 // A board, and below it the item's text. Boards are painted when they come into sight.
 class BoardDelegate final : public QStyledItemDelegate {
  public:
-  using QStyledItemDelegate::QStyledItemDelegate;
+  BoardDelegate(const CageColours& colours, QObject* parent)
+      : QStyledItemDelegate(parent), colours_(colours) {}
 
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const override {
     const int text = option.fontMetrics.height();
@@ -39,7 +41,7 @@ class BoardDelegate final : public QStyledItemDelegate {
     option.displayAlignment = Qt::AlignHCenter | Qt::AlignBottom;
     option.widget->style()->drawPrimitive(QStyle::PE_PanelItemViewItem, &option, painter,
                                           option.widget);
-    PaintSmallBoard(*painter, board, model.RecordAt(index));
+    PaintSmallBoard(*painter, board, model.RecordAt(index), colours_);
     const bool isChosen = option.state.testFlag(QStyle::State_Selected);
     const auto group =
         option.state.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
@@ -57,12 +59,15 @@ class BoardDelegate final : public QStyledItemDelegate {
     option.widget->style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter,
                                           option.widget);
   }
+
+  const CageColours colours_;
 };
 
 }  // namespace
 
 PuzzleListDialog::PuzzleListDialog(const QString& title, formats::ByteSource source,
-                                   const QString& where, QWidget* parent)
+                                   const QString& where, const CageColours& colours,
+                                   QWidget* parent)
     : QDialog(parent),
       model_(new PuzzleListModel(this)),
       list_(new QListView(this)),
@@ -70,32 +75,35 @@ PuzzleListDialog::PuzzleListDialog(const QString& title, formats::ByteSource sou
       count_(new QLabel(this)) {
   setObjectName("PuzzleListDialog");
   setWindowTitle("Tessel Sudoku - " + title);
-  Build(where);
+  Build(where, colours);
   EnableButtons();
   List(std::move(source), where);
 }
 
 PuzzleListDialog::~PuzzleListDialog() = default;
 
-void PuzzleListDialog::Build(const QString& where) {
-  BuildList();
+void PuzzleListDialog::Build(const QString& where, const CageColours& colours) {
+  BuildList(colours);
   count_->setObjectName("PuzzleCount");
   count_->setTextFormat(Qt::PlainText);
   count_->setWordWrap(true);
   auto* const top = new QHBoxLayout;
   top->addWidget(count_, 1);
+  auto* const label = new QLabel("O&rder:", this);
+  label->setBuddy(order_);
+  top->addWidget(label);
   top->addWidget(order_);
   auto* const column = new QVBoxLayout(this);
   column->addLayout(top);
   column->addWidget(list_, 1);
   column->addLayout(BuildFoot(where));
   resize(720, 560);
+  FitOnScreen(*this);
   list_->setFocus();
 }
 
-void PuzzleListDialog::BuildList() {
+void PuzzleListDialog::BuildList(const CageColours& colours) {
   order_->setObjectName("PuzzleOrder");
-  order_->setAccessibleName("Order");
   order_->addItems({"Newest first", "Oldest first", "Easiest first", "Hardest first"});
   connect(order_, &QComboBox::currentIndexChanged, this, [this](int chosen) {
     model_->Order(static_cast<PuzzleOrder>(chosen));
@@ -104,7 +112,7 @@ void PuzzleListDialog::BuildList() {
   list_->setObjectName("PuzzleList");
   list_->setAccessibleName("Puzzles");
   list_->setModel(model_);
-  list_->setItemDelegate(new BoardDelegate(list_));
+  list_->setItemDelegate(new BoardDelegate(colours, list_));
   list_->setFlow(QListView::LeftToRight);
   list_->setWrapping(true);
   list_->setResizeMode(QListView::Adjust);

@@ -5,6 +5,7 @@
 #include <memory>
 #include <vector>
 
+#include "core/colour.h"
 #include "shell/puzzle_listing.h"
 
 class QComboBox;
@@ -20,9 +21,10 @@ class PuzzleListDialog final : public QDialog {
   Q_OBJECT
 
  public:
-  // Lists what `source` gives. `where` says where it comes from: a path, or "clipboard".
+  // Lists what `source` gives, with cages in these colours. `where` says where it comes from: a
+  // path, or "clipboard".
   PuzzleListDialog(const QString& title, formats::ByteSource source, const QString& where,
-                   QWidget* parent);
+                   const CageColours& colours, QWidget* parent);
   ~PuzzleListDialog() override;
 
   // In the order in which they are listed.
@@ -34,8 +36,8 @@ class PuzzleListDialog final : public QDialog {
   void ExportWanted();
 
  private:
-  void Build(const QString& where);
-  void BuildList();
+  void Build(const QString& where, const CageColours& colours);
+  void BuildList(const CageColours& colours);
   QLayout* BuildFoot(const QString& where);
   QPushButton* AddButton(const QString& text, const char* name);
   void List(formats::ByteSource source, const QString& where);

@@ -7,6 +7,7 @@
 
 #include "shell/explaining.h"
 #include "shell/qt/background_work.h"
+#include "shell/qt/screen_fit.h"
 
 namespace tessel {
 
@@ -43,6 +44,8 @@ class SaveDialog {
     QObject::connect(&dialog_, &QFileDialog::filterSelected, useSuffix);
     useSuffix();
     dialog_.selectFile("puzzle");
+    dialog_.resize(kFileDialogSize);
+    FitOnScreen(dialog_);
   }
 
   std::optional<Choice> Ask() {

@@ -12,4 +12,7 @@ QSize FitInto(QSize wanted, QSize freeArea);
 // for.
 void FitOnScreen(QWidget& window);
 
+// How large a dialog with a list of files opens, so that their names and dates can be read.
+inline constexpr QSize kFileDialogSize(780, 520);
+
 }  // namespace tessel

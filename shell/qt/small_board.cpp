@@ -3,7 +3,6 @@
 #include <QPainter>
 
 #include "core/cage_edges.h"
-#include "core/colour.h"
 
 namespace tessel {
 
@@ -11,8 +10,9 @@ namespace {
 
 class SmallBoardDrawing {
  public:
-  SmallBoardDrawing(QPainter& painter, const QRect& place, const PuzzleRecord& puzzle)
-      : painter_(painter), place_(place), puzzle_(puzzle) {}
+  SmallBoardDrawing(QPainter& painter, const QRect& place, const PuzzleRecord& puzzle,
+                    const CageColours& colours)
+      : painter_(painter), place_(place), puzzle_(puzzle), colours_(colours) {}
 
   void Draw() {
     for (int cell = 0; cell < kCellCount; ++cell) DrawGround(cell);
@@ -34,7 +34,7 @@ class SmallBoardDrawing {
   }
 
   void DrawGround(int cell) {
-    const Rgb colour = kCageColours[puzzle_.CageMap[cell] - 1u];
+    const Rgb colour = colours_[puzzle_.CageMap[cell] - 1u];
     painter_.fillRect(CellRect(cell), QColor(colour.red, colour.green, colour.blue));
   }
 
@@ -57,22 +57,25 @@ class SmallBoardDrawing {
   QPainter& painter_;
   const QRect place_;
   const PuzzleRecord& puzzle_;
+  const CageColours& colours_;
 };
 
 }  // namespace
 
-void PaintSmallBoard(QPainter& painter, const QRect& place, const PuzzleRecord& puzzle) {
+void PaintSmallBoard(QPainter& painter, const QRect& place, const PuzzleRecord& puzzle,
+                     const CageColours& colours) {
   painter.save();
-  SmallBoardDrawing(painter, place, puzzle).Draw();
+  SmallBoardDrawing(painter, place, puzzle, colours).Draw();
   painter.restore();
 }
 
-QPixmap SmallBoard(const PuzzleRecord& puzzle, int side, qreal pixelRatio) {
+QPixmap SmallBoard(const PuzzleRecord& puzzle, const CageColours& colours, int side,
+                   qreal pixelRatio) {
   QPixmap picture(QSize(side, side) * pixelRatio);
   picture.setDevicePixelRatio(pixelRatio);
   picture.fill(Qt::transparent);
   QPainter painter(&picture);
-  PaintSmallBoard(painter, QRect(0, 0, side, side), puzzle);
+  PaintSmallBoard(painter, QRect(0, 0, side, side), puzzle, colours);
   return picture;
 }
 

@@ -39,6 +39,10 @@ void Offer(
 
 }  // namespace
 
+const CageColours& ChosenColours(const Preferences& preferences) {
+  return IsOn(preferences, kSofter) ? kSofterCages : kCageColours;
+}
+
 bool WantsSounds(const Preferences& preferences) {
   return IsOn(preferences, kSounds);
 }
@@ -50,8 +54,9 @@ void ConnectViewMenu(MenuBar& menu, const ViewTargets& targets) {
       menu, preferences, kDigitBar,
       [&panel = panel, &form = form](bool on) { panel.OfferDigitBar(on, form); },
       [&panel = panel] { return panel.HasRoomForDigitBar(); });
-  Offer(menu, preferences, kSofter,
-        [&board = board](bool on) { board.SetCageColours(on ? kSofterCages : kCageColours); });
+  Offer(menu, preferences, kSofter, [&board = board, &preferences = preferences](bool) {
+    board.SetCageColours(ChosenColours(preferences));
+  });
   Offer(menu, preferences, kSounds, [sounds = sounds](bool on) {
     if (sounds != nullptr) sounds->Turn(on);
   });

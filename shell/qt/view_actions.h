@@ -22,6 +22,9 @@ struct ViewTargets {
 // Connects the entries, and makes the window look as it was chosen last.
 void ConnectViewMenu(MenuBar& menu, const ViewTargets& targets);
 
+// The colours that the player wants cages in.
+const CageColours& ChosenColours(const Preferences& preferences);
+
 // Whether the program may be heard.
 bool WantsSounds(const Preferences& preferences);
 

@@ -3,18 +3,15 @@
 #include <gtest/gtest.h>
 
 #include "core/names.h"
+#include "tests/qt/accessible_tree.h"
 #include "tests/qt/window_program.h"
 
 namespace tessel {
 namespace {
 
-QAccessibleInterface* Of(QObject* object) {
-  return QAccessible::queryAccessibleInterface(object);
-}
-
 TEST(BoardAccessible, Offers81CellsByName) {
   WindowProgram program;
-  QAccessibleInterface* board = Of(program.Board());
+  QAccessibleInterface* board = AccessibleOf(program.Board());
   EXPECT_EQ(board->text(QAccessible::Name), "Board");
   ASSERT_EQ(board->childCount(), 81);
   for (int cell = 0; cell < kCellCount; ++cell) {
@@ -35,7 +32,7 @@ TEST(BoardAccessible, Offers81CellsByName) {
 
 TEST(BoardAccessible, CellsLieWhereTheyArePainted) {
   WindowProgram program;
-  QAccessibleInterface* board = Of(program.Board());
+  QAccessibleInterface* board = AccessibleOf(program.Board());
   for (int cell = 0; cell < kCellCount; ++cell) {
     const QRect place = board->child(cell)->rect();
     const QRect painted = program.Board()->CellRect(cell).toRect();
@@ -49,7 +46,7 @@ TEST(BoardAccessible, CellsLieWhereTheyArePainted) {
 TEST(BoardAccessible, TellsGivensEntriesAndMarks) {
   WindowProgram program;
   program.OpenPuzzle();
-  QAccessibleInterface* board = Of(program.Board());
+  QAccessibleInterface* board = AccessibleOf(program.Board());
   const int empty = program.FirstEmptyCell();
   QString marks;
   for (int digit = 1; digit <= kSide; ++digit) {
@@ -69,37 +66,25 @@ TEST(BoardAccessible, TellsGivensEntriesAndMarks) {
 
 TEST(BoardAccessible, CellWithoutMarksIsEmpty) {
   WindowProgram program;
-  EXPECT_EQ(Of(program.Board())->child(0)->text(QAccessible::Value), "empty");
+  EXPECT_EQ(AccessibleOf(program.Board())->child(0)->text(QAccessible::Value), "empty");
 }
 
 TEST(BoardAccessible, FocusIsOnTheFocusedCell) {
   WindowProgram program;
   program.Board()->setFocus();
   program.Board()->FocusCell(33);
-  QAccessibleInterface* board = Of(program.Board());
+  QAccessibleInterface* board = AccessibleOf(program.Board());
   EXPECT_EQ(board->focusChild(), board->child(33));
   EXPECT_TRUE(board->child(33)->state().focused);
   EXPECT_FALSE(board->child(34)->state().focused);
 }
 
-// Walks the tree from the window down, as an assistive program does.
-void Walk(QAccessibleInterface* node, std::vector<QAccessibleInterface*>& found) {
-  found.push_back(node);
-  for (int i = 0; i < node->childCount(); ++i) {
-    QAccessibleInterface* const child = node->child(i);
-    ASSERT_NE(child, nullptr);
-    Walk(child, found);
-  }
-}
-
 TEST(BoardAccessible, EverythingInTheWindowHasAName) {
   WindowProgram program;
   program.OpenPuzzle();
-  std::vector<QAccessibleInterface*> found;
-  Walk(Of(&program.window), found);
   int cells = 0;
   int controls = 0;
-  for (QAccessibleInterface* node : found) {
+  for (QAccessibleInterface* node : TreeOf(AccessibleOf(&program.window))) {
     cells += node->role() == QAccessible::Cell;
     controls += node->role() == QAccessible::PushButton || node->role() == QAccessible::CheckBox;
     const bool speaks = node->state().focusable || node->role() == QAccessible::Cell ||
@@ -116,7 +101,7 @@ TEST(BoardAccessible, EverythingInTheWindowHasAName) {
 TEST(BoardAccessible, HintTextCanBeRead) {
   WindowProgram program;
   program.OpenPuzzle();
-  EXPECT_TRUE(Of(program.Find<QLabel>("TextHint"))
+  EXPECT_TRUE(AccessibleOf(program.Find<QLabel>("TextHint"))
                   ->text(QAccessible::Name)
                   .contains("Press [Hint] if you got stuck"));
 }

@@ -2,7 +2,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <QAccessible>
 #include <QComboBox>
 #include <QLabel>
 #include <QListView>
@@ -12,7 +11,10 @@
 #include "shell/qt/menu_bar.h"
 #include "shell/qt/puzzle_list_dialog.h"
 #include "shell/qt/puzzle_list_model.h"
+#include "shell/qt/softer_colours.h"
+#include "tests/qt/accessible_tree.h"
 #include "tests/qt/modal.h"
+#include "tests/qt/painted_board.h"
 #include "tests/qt/window_program.h"
 
 namespace tessel {
@@ -108,16 +110,53 @@ TEST_F(MyPuzzles, TellsWhereTheyAreKeptAndWhatCannotBeRead) {
 
 TEST_F(MyPuzzles, CanBeWalkedByAScreenReader) {
   With(2, [](PuzzleListDialog&, QListView& view) {
-    QAccessibleInterface* const list = QAccessible::queryAccessibleInterface(&view);
+    QAccessibleInterface* const list = AccessibleOf(&view);
     ASSERT_NE(list, nullptr);
     EXPECT_EQ(list->role(), QAccessible::List);
-    EXPECT_EQ(list->text(QAccessible::Name), "Puzzles");
+    EXPECT_EQ(NameOf(*list), "Puzzles");
     ASSERT_EQ(list->childCount(), 2);
-    EXPECT_THAT(list->child(0)->text(QAccessible::Name).toStdString(),
+    EXPECT_THAT(NameOf(*list->child(0)).toStdString(),
                 testing::MatchesRegex("Puzzle 2, 2[0-9] givens, [A-Z][a-z ]+"));
     EXPECT_EQ(list->child(1)->role(), QAccessible::ListItem);
     EXPECT_TRUE(list->child(0)->state().selectable);
+    EXPECT_TRUE(list->child(0)->state().selected);
+    EXPECT_FALSE(list->child(1)->state().selected);
   });
+}
+
+TEST_F(MyPuzzles, TellEveryControlByNameAndRole) {
+  With(2, [this](PuzzleListDialog& dialog, QListView& view) {
+    view.selectAll();
+    std::vector<std::string> told;
+    for (const QAccessibleInterface* node : TreeOf(AccessibleOf(&dialog))) {
+      const bool isControl = qobject_cast<QWidget*>(node->object()) != nullptr &&
+                             (node->state().focusable || node->role() == QAccessible::Button);
+      if (!isControl || node->state().invisible) continue;
+      QString name = NameOf(*node) + (node->state().disabled ? " (disabled)" : "");
+      for (const auto& [label, kind] : node->relations(QAccessible::Label)) {
+        name.prepend(NameOf(*label) + " ");
+      }
+      told.push_back(name.toStdString());
+    }
+    EXPECT_EQ(NameOf(*AccessibleOf(&dialog)), "Tessel Sudoku - My Puzzles");
+    EXPECT_THAT(told, testing::UnorderedElementsAre(
+                          "Puzzles", "Order: Newest first", program.folder.PuzzleFile().string(),
+                          "Open (disabled)", "Print…", "Export…", "Close"));
+  });
+}
+
+TEST_F(MyPuzzles, FollowSofterColours) {
+  const auto paintedIn = [this](const CageColours& colours, const CageColours& others) {
+    With(2, [&](PuzzleListDialog&, QListView& list) {
+      const QImage seen = list.viewport()->grab().toImage();
+      const std::set<QRgb> shown = ColoursIn(seen, seen.rect());
+      for (const Rgb colour : colours) EXPECT_TRUE(shown.contains(ColourOf(colour).rgb()));
+      EXPECT_FALSE(shown.contains(ColourOf(others[3]).rgb()));
+    });
+  };
+  paintedIn(kCageColours, kSofterCages);
+  program.Find<MenuBar>("MenuBar")->Of(Entry::kSofterColours)->trigger();
+  paintedIn(kSofterCages, kCageColours);
 }
 
 TEST_F(MyPuzzles, OpensTheChosenOne) {
