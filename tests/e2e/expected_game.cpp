@@ -1,6 +1,7 @@
 #include "tests/e2e/expected_game.h"
 
 #include <algorithm>
+#include <stdexcept>
 
 namespace tessel {
 
@@ -46,6 +47,24 @@ bool ExpectedGame::ShowsMark(int cell, int digit) const {
 
 bool ExpectedGame::Full() const {
   return std::none_of(digits_.begin(), digits_.end(), [](int digit) { return digit == 0; });
+}
+
+Mark ExpectedGame::FindMark(bool shown, bool right) const {
+  for (int cell = 0; cell < kCellCount; ++cell) {
+    if (Digit(cell) != 0) continue;
+    for (int digit = 1; digit <= kSide; ++digit) {
+      if (ShowsMark(cell, digit) == shown && (Solution(cell) == digit) == right) {
+        return {cell, digit};
+      }
+    }
+  }
+  throw std::runtime_error("no such mark on the board");
+}
+
+int ExpectedGame::FindGiven() const {
+  int cell = 0;
+  while (Given(cell) == 0) ++cell;
+  return cell;
 }
 
 bool ExpectedGame::SeeEachOther(int cell, int other) const {

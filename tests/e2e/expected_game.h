@@ -7,6 +7,11 @@
 
 namespace tessel {
 
+struct Mark {
+  int cell;
+  int digit;
+};
+
 class ExpectedGame {
  public:
   explicit ExpectedGame(const PuzzleRecord& puzzle);
@@ -27,6 +32,11 @@ class ExpectedGame {
   int Digit(int cell) const { return digits_[cell]; }
   bool ShowsMark(int cell, int digit) const;
   bool Full() const;
+
+  // The first mark of an empty cell that is shown or not, and of the right digit or not. Throws
+  // when there is none.
+  Mark FindMark(bool shown, bool right) const;
+  int FindGiven() const;
 
  private:
   bool SeeEachOther(int cell, int other) const;

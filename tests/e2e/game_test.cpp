@@ -55,11 +55,6 @@ class KeyboardHand final : public Hand {
   User::By Kind() const override { return User::By::kKeyboard; }
 };
 
-struct Mark {
-  int cell;
-  int digit;
-};
-
 class WholeGame : public testing::Test {
  protected:
   WholeGame() { InstallProgram(folder_.Path()); }
@@ -85,9 +80,6 @@ class WholeGame : public testing::Test {
   void Place(Mark mark);
   testing::AssertionResult SeesGame() const;
   testing::AssertionResult SeesOpenBoard(bool open) const;
-  // The first mark of an empty cell that is shown or not, and of the right digit or not.
-  Mark FindMark(bool shown, bool right) const;
-  int FindGiven() const;
 
   User* user_ = nullptr;
   Hand* hand_ = nullptr;
@@ -135,7 +127,7 @@ void WholeGame::MakePuzzle() {
 
 void WholeGame::ToggleMarks() {
   for (const bool shown : {true, false}) {
-    const Mark mark = FindMark(shown, false);
+    const Mark mark = game_->FindMark(shown, false);
     hand_->RightClick(mark.cell, mark.digit);
     game_->RightClick(mark.cell, mark.digit);
     EXPECT_TRUE(SeesGame());
@@ -143,9 +135,9 @@ void WholeGame::ToggleMarks() {
 }
 
 void WholeGame::TryWhatDoesNothing() {
-  const Mark hidden = FindMark(false, false);
+  const Mark hidden = game_->FindMark(false, false);
   hand_->Place(hidden.cell, hidden.digit);
-  const int given = FindGiven();
+  const int given = game_->FindGiven();
   hand_->Place(given, 1);
   hand_->RightClick(given, 9);
   hand_->TakeOut(given);
@@ -154,10 +146,10 @@ void WholeGame::TryWhatDoesNothing() {
 }
 
 void WholeGame::PlaceAndTakeOut() {
-  const Mark first = FindMark(true, true);
+  const Mark first = game_->FindMark(true, true);
   Place(first);
-  Place(FindMark(true, true));
-  Place(FindMark(true, true));
+  Place(game_->FindMark(true, true));
+  Place(game_->FindMark(true, true));
   EXPECT_TRUE(SeesGame());
   hand_->TakeOut(first.cell);
   game_->RightClick(first.cell, first.digit);
@@ -165,7 +157,7 @@ void WholeGame::PlaceAndTakeOut() {
 }
 
 void WholeGame::PlaceAWrongDigitAndAsk() {
-  const Mark wrong = FindMark(true, false);
+  const Mark wrong = game_->FindMark(true, false);
   Place(wrong);
   EXPECT_TRUE(SeesGame());
   hand_->Press("CommandHint");
@@ -182,7 +174,7 @@ void WholeGame::PlaceAWrongDigitAndAsk() {
 
 void WholeGame::GoOnWithoutUpdates() {
   EXPECT_TRUE(SeesGame());
-  const Mark hidden = FindMark(false, false);
+  const Mark hidden = game_->FindMark(false, false);
   hand_->Press("CheckPencilmarks");
   game_->UpdatePencilmarks(false);
   EXPECT_TRUE(SeesGame());
@@ -263,23 +255,6 @@ testing::AssertionResult WholeGame::SeesGame() const {
 testing::AssertionResult WholeGame::SeesOpenBoard(bool open) const {
   if (const auto hint = user_->SeesButton("CommandHint", "Hint", open); !hint) return hint;
   return user_->SeesButton("CommandSolution", "Solution", open);
-}
-
-Mark WholeGame::FindMark(bool shown, bool right) const {
-  for (int cell = 0; cell < kCellCount; ++cell) {
-    if (game_->Digit(cell) != 0) continue;
-    for (int digit = 1; digit <= kSide; ++digit) {
-      const bool isRight = game_->Solution(cell) == digit;
-      if (game_->ShowsMark(cell, digit) == shown && isRight == right) return {cell, digit};
-    }
-  }
-  throw std::runtime_error("no such mark on the board");
-}
-
-int WholeGame::FindGiven() const {
-  int cell = 0;
-  while (game_->Given(cell) == 0) ++cell;
-  return cell;
 }
 
 TEST_F(WholeGame, IsPlayedWithTheMouseAtTwoWindowSizes) {

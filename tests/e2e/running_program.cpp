@@ -105,10 +105,14 @@ RunningProgram::RunningProgram(const std::filesystem::path& folder, const Launch
   window_ = DesktopWindow(Windows().first());
 }
 
+// The display learns a little later that the program has ended; the next one must not be taken for
+// this one.
 RunningProgram::~RunningProgram() {
-  if (!Running()) return;
-  process_.kill();
-  process_.waitForFinished(kPatienceMs);
+  if (Running()) {
+    process_.kill();
+    process_.waitForFinished(kPatienceMs);
+  }
+  Eventually([this] { return !Windows().contains(window_.Id()); });
 }
 
 QStringList RunningProgram::Windows() const {

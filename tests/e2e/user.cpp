@@ -7,6 +7,7 @@
 #include <regex>
 
 #include "tests/e2e/desktop.h"
+#include "tests/e2e/entry_keys.h"
 #include "tests/e2e/eventually.h"
 
 namespace tessel {
@@ -65,6 +66,10 @@ void User::Choose(Entry entry) const {
   program_.Window().Click(twin_.MenuTitlePlace(entry));
   Eventually([&] { return TheDesktop().Screenshot(area) != before; });
   program_.Window().Click(place.center());
+}
+
+void User::ChooseByKeys(Entry entry) const {
+  program_.Window().PressKeys(LettersOf(entry));
 }
 
 void User::ClickMark(int cell, int digit, MouseKey button) {
@@ -197,16 +202,23 @@ testing::AssertionResult User::SeesText(const char* label, const std::string& te
   return Eventually(readsSo) ? testing::AssertionSuccess() : Differs(expected, seen);
 }
 
-// Hidden, the frame leaves its place empty.
 testing::AssertionResult User::SeesSolveButtons(bool visible) const {
+  return SeesSomethingIn(twin_.AreaOf("SolveButtons"), visible);
+}
+
+testing::AssertionResult User::SeesDigitBar(bool visible) const {
+  return SeesSomethingIn(twin_.AreaOf("DigitBar"), visible);
+}
+
+testing::AssertionResult User::SeesSomethingIn(const QRect& area, bool visible) const {
   const auto looksSo = [&] {
-    const QImage seen = LooksAt(twin_.AreaOf("SolveButtons"));
+    const QImage seen = LooksAt(area);
     QImage blank(seen.size(), seen.format());
     blank.fill(seen.pixel(0, 0));
     return (seen != blank) == visible;
   };
   return Eventually(looksSo) ? testing::AssertionSuccess()
-                             : testing::AssertionFailure() << "the frame is not so";
+                             : testing::AssertionFailure() << "visible=" << !visible;
 }
 
 testing::AssertionResult User::SeesBoard(const ExpectedBoard& board) const {
@@ -257,9 +269,23 @@ testing::AssertionResult User::SeesNoTarget(const ExpectedBoard& board, int cell
 testing::AssertionResult User::SeesHighlights(const ExpectedBoard& board,
                                               const BoardHighlights& highlights,
                                               const CageColours& colours) const {
-  const QImage expected = twin_.Board(board, highlights, colours);
+  return SeesOnBoard(twin_.Board(board, highlights, colours), [] {});
+}
+
+testing::AssertionResult User::SeesPointed(const ExpectedBoard& board,
+                                           const BoardHighlights& highlights,
+                                           const CageColours& colours) const {
+  return SeesOnBoard(twin_.Board(board, highlights, colours), [&] {
+    PointAt(highlights.active.value(), 1);
+    PointAt(highlights.active.value(), 5);
+  });
+}
+
+testing::AssertionResult User::SeesOnBoard(const QImage& expected,
+                                           const std::function<void()>& prepare) const {
   QImage seen;
   const auto looksSo = [&] {
+    prepare();
     seen = LooksAt(twin_.AreaOfBoard());
     return seen == expected;
   };

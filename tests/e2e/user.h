@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <functional>
 #include <string>
 
 #include "shell/stage.h"
@@ -37,8 +38,10 @@ class User {
   void Press(const char* control) const;
   void ClickMark(int cell, int digit, MouseKey button);
 
-  // By mouse: opens the entry's menu and clicks on it.
+  // Opens the entry's menu and chooses it there: with the mouse; by the letters that both
+  // underline.
   void Choose(Entry entry) const;
+  void ChooseByKeys(Entry entry) const;
 
   // By keyboard: the shortcut that the control's tooltip tells; a key on a cell, to which the arrow
   // keys lead from the one that has the focus.
@@ -64,6 +67,7 @@ class User {
   testing::AssertionResult SeesNews(const std::string& text);
   testing::AssertionResult SeesText(const char* label, const std::string& text);
   testing::AssertionResult SeesSolveButtons(bool visible) const;
+  testing::AssertionResult SeesDigitBar(bool visible) const;
   testing::AssertionResult SeesBoard(const ExpectedBoard& board) const;
 
   // Moves the mouse onto a mark and, if it is to be pressed, holds the left button down there.
@@ -76,6 +80,11 @@ class User {
   testing::AssertionResult SeesHighlights(const ExpectedBoard& board,
                                           const BoardHighlights& highlights,
                                           const CageColours& colours = kCageColours) const;
+  // The same, while the mouse moves about in the active cell: one that stays where it is tells
+  // nothing, and one that moves while a menu is still open tells it to the menu.
+  testing::AssertionResult SeesPointed(const ExpectedBoard& board,
+                                       const BoardHighlights& highlights,
+                                       const CageColours& colours) const;
   void PointAt(int cell, int digit) const;
 
   // What the board shows now, and whether it is that.
@@ -88,6 +97,11 @@ class User {
 
  private:
   QImage LooksAt(const QRect& area) const;
+  // Does that before each look.
+  testing::AssertionResult SeesOnBoard(const QImage& expected,
+                                       const std::function<void()>& prepare) const;
+  // What is hidden leaves its place empty.
+  testing::AssertionResult SeesSomethingIn(const QRect& area, bool visible) const;
   BoardHighlights Focus() const;
 
   RunningProgram program_;

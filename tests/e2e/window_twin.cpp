@@ -32,6 +32,8 @@ WindowTwin::WindowTwin(QSize size)
   // it is shown.
   Find<QWidget>("SolveButtons").show();
   Resize(size);
+  Find<MenuBar>("MenuBar").Update();
+  Find<MenuBar>("MenuBar").Of(Entry::kDigitBar)->trigger();
 }
 
 void WindowTwin::Resize(QSize size) {
