@@ -15,15 +15,19 @@ std::string Number(char byte) {
   return "byte " + std::to_string(static_cast<unsigned char>(byte));
 }
 
+// `offset`: of the byte of cell 0.
+Fault ByteFault(std::size_t offset, int cell, int least, char byte) {
+  return {offset + static_cast<std::size_t>(cell), "",
+          "a byte from " + std::to_string(least) + " to 9 for " + CellName(cell), Number(byte)};
+}
+
 // The 81 bytes from `offset` on, each of `least` to 9.
 tl::expected<Grid, Fault> Bytes(std::string_view record, std::size_t offset, int least) {
   Grid grid{};
   for (int cell = 0; cell < kCellCount; ++cell) {
     const char byte = record[offset + static_cast<std::size_t>(cell)];
     if (byte < least || byte > kSide) {
-      return tl::unexpected(Fault{
-          offset + static_cast<std::size_t>(cell), "",
-          "a byte from " + std::to_string(least) + " to 9 for " + CellName(cell), Number(byte)});
+      return tl::unexpected(ByteFault(offset, cell, least, byte));
     }
     grid[cell] = static_cast<std::uint8_t>(byte);
   }

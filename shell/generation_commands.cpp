@@ -133,11 +133,15 @@ std::string GenerationCommands::PuzzleFilePath() const {
 }
 
 // A puzzle that cannot be saved can be solved all the same; the foot of the window tells.
-void GenerationCommands::SaveTessel() {
-  state_.SavedPuzzle = RecordOf(state_);
+std::string GenerationCommands::FolderForPuzzles() {
   const std::string folder = PuzzleFolder(state_.ProgramPath, userFolder_, system_);
   if (folder != state_.ProgramPath) MakeFolder(folder, system_);
-  const std::string path = folder + kPuzzleFileName;
+  return folder;
+}
+
+void GenerationCommands::SaveTessel() {
+  state_.SavedPuzzle = RecordOf(state_);
+  const std::string path = FolderForPuzzles() + kPuzzleFileName;
   const auto letWindowAnswer = [this] { view_.PumpEventsNow(); };
   const auto number = SavePuzzle(path, state_.SavedPuzzle, system_, letWindowAnswer);
   if (number) {

@@ -33,6 +33,8 @@ class GenerationCommands {
   void RunSaw();
   bool RunFill();     // whether it completed
   bool RunConceal();  // likewise
+  // Makes it where that is needed.
+  std::string FolderForPuzzles();
   void SaveTessel();
   void TellOfSave(std::int64_t number, const std::string& path);
 

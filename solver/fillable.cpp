@@ -45,6 +45,19 @@ void RequireRules(CaDiCaL::Solver& sat, const Layout& layout) {
   }
 }
 
+void RequireGivens(CaDiCaL::Solver& sat, const Grid& givens) {
+  for (int cell = 0; cell < kCellCount; ++cell) {
+    if (givens[cell] != 0) RequireAny(sat, std::array{Stands(cell, givens[cell])});
+  }
+}
+
+// Another grid than this one.
+void RequireOther(CaDiCaL::Solver& sat, const Grid& grid) {
+  std::array<int, kCellCount> others;
+  for (int cell = 0; cell < kCellCount; ++cell) others[cell] = -Stands(cell, grid[cell]);
+  RequireAny(sat, others);
+}
+
 Grid GridOf(CaDiCaL::Solver& sat) {
   Grid grid{};
   for (int cell = 0; cell < kCellCount; ++cell) {
@@ -73,17 +86,11 @@ namespace {
 std::vector<Grid> CompletionsBySat(const Layout& layout, const Grid& givens, int most) {
   CaDiCaL::Solver sat;
   RequireRules(sat, layout);
-  for (int cell = 0; cell < kCellCount; ++cell) {
-    if (givens[cell] != 0) RequireAny(sat, std::array{Stands(cell, givens[cell])});
-  }
+  RequireGivens(sat, givens);
   std::vector<Grid> completions;
   while (std::ssize(completions) < most && sat.solve() == kSatisfiable) {
     completions.push_back(GridOf(sat));
-    std::array<int, kCellCount> others;
-    for (int cell = 0; cell < kCellCount; ++cell) {
-      others[cell] = -Stands(cell, completions.back()[cell]);
-    }
-    RequireAny(sat, others);
+    RequireOther(sat, completions.back());
   }
   return completions;
 }

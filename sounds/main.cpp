@@ -5,6 +5,16 @@
 #include "sounds/effects.h"
 #include "sounds/wav_file.h"
 
+namespace {
+
+bool Write(const std::string& path, tessel::Sound sound) {
+  std::ofstream file(path, std::ios::binary);
+  file << tessel::synth::WavFileOf(tessel::synth::EffectOf(sound));
+  return static_cast<bool>(file.flush());
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
   if (argc != 2) {
     std::cerr << "usage: tessel-synth FOLDER\n";
@@ -12,10 +22,7 @@ int main(int argc, char** argv) {
   }
   for (std::size_t number = 0; number < tessel::kSoundFiles.size(); ++number) {
     const std::string path = std::string(argv[1]) + "/" + std::string(tessel::kSoundFiles[number]);
-    const auto effect = tessel::synth::EffectOf(static_cast<tessel::Sound>(number));
-    std::ofstream file(path, std::ios::binary);
-    file << tessel::synth::WavFileOf(effect);
-    if (!file.flush()) {
+    if (!Write(path, static_cast<tessel::Sound>(number))) {
       std::cerr << "tessel-synth: cannot write " << path << "\n";
       return 1;
     }

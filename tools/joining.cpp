@@ -46,6 +46,14 @@ void RequireOtherShard(const ShardFile& a, const ShardFile& b) {
   throw Failure(a.manifestPath + " and " + b.manifestPath + " tell of the same shard");
 }
 
+void RequireAll(const std::vector<ShardFile>& shards, std::uint64_t count) {
+  for (std::uint64_t number = 0; number < count; ++number) {
+    if (number < shards.size() && shards[number].number == number) continue;
+    throw Failure("shard " + std::to_string(number) + " of " + std::to_string(count) +
+                  " is missing");
+  }
+}
+
 void RequireOneWholeRun(const std::vector<ShardFile>& shards) {
   const ShardFile& first = shards.front();
   for (std::size_t i = 0; i < shards.size(); ++i) {
@@ -53,11 +61,7 @@ void RequireOneWholeRun(const std::vector<ShardFile>& shards) {
     if (i > 0) RequireOtherShard(shards[i], shards[i - 1]);
     if (shards[i].number != i) break;
   }
-  for (std::uint64_t number = 0; number < first.count; ++number) {
-    if (number < shards.size() && shards[number].number == number) continue;
-    throw Failure("shard " + std::to_string(number) + " of " + std::to_string(first.count) +
-                  " is missing");
-  }
+  RequireAll(shards, first.count);
 }
 
 // Beside its manifest, as the run has told.
