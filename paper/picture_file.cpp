@@ -30,6 +30,13 @@ tl::expected<void, std::string> PassOn(const std::string& bytes, const Sink& sin
   return stream.Result(CAIRO_STATUS_SUCCESS);
 }
 
+constexpr int kMaxPixels = 32767;  // a side of Cairo's images
+
+std::string TooLarge(double pixels) {
+  return "a picture of " + std::to_string(std::lround(pixels)) +
+         " pixels a side is too large: " + std::to_string(kMaxPixels) + " at most";
+}
+
 }  // namespace
 
 tl::expected<void, std::string> WriteSvg(const BoardPicture& picture, const BoardStyle& style,
@@ -57,8 +64,10 @@ tl::expected<void, std::string> WritePng(const BoardPicture& picture, const Boar
   const auto fonts = Fonts::Get();
   if (!fonts) return tl::unexpected(fonts.error());
   const double scale = pixelsPerInch / kPointsPerInch;
-  const int pixels = static_cast<int>(std::ceil(style.side * scale));
-  const Surface image(cairo_image_surface_create(CAIRO_FORMAT_RGB24, pixels, pixels));
+  const double pixels = std::ceil(style.side * scale);
+  if (pixels > kMaxPixels) return tl::unexpected(TooLarge(pixels));
+  const int side = static_cast<int>(pixels);
+  const Surface image(cairo_image_surface_create(CAIRO_FORMAT_RGB24, side, side));
   const Context context(cairo_create(image.get()));
   cairo_set_source_rgb(context.get(), 1, 1, 1);
   cairo_paint(context.get());

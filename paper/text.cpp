@@ -10,20 +10,36 @@ bool ContinuesCharacter(char byte) {
   return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
 }
 
-// The length of the longest beginning of whole characters that is no wider than `width`; at least
-// one character.
-std::size_t FittingLength(const Fonts& fonts, std::string_view text, const TextStyle& style,
-                          double width) {
-  const GlyphRun run = fonts.Shape(text, style.face);
+// The first `most` bytes and what belongs to their last character.
+std::string_view Prefix(std::string_view text, std::size_t most) {
+  while (most < text.size() && ContinuesCharacter(text[most])) ++most;
+  return text.substr(0, most);
+}
+
+std::size_t FittingLength(const GlyphRun& run, double size, double width) {
   std::size_t length = 0;
   std::size_t glyph = 0;
   for (const cairo_text_cluster_t& cluster : run.clusters) {
     glyph += static_cast<std::size_t>(cluster.num_glyphs);
     const double end = glyph < run.glyphs.size() ? run.glyphs[glyph].x : run.width;
-    if (length > 0 && end * style.size > width) break;
+    if (length > 0 && end * size > width) break;
     length += static_cast<std::size_t>(cluster.num_bytes);
   }
   return length;
+}
+
+// The length of the longest beginning of whole characters that is no wider than `width`; at least
+// one character. No more of the text is shaped than about twice of what fits, so that wrapping a
+// long one takes time by its length, not by the square.
+std::size_t FittingLength(const Fonts& fonts, std::string_view text, const TextStyle& style,
+                          double width) {
+  for (std::size_t most = 64;; most *= 2) {
+    const std::string_view prefix = Prefix(text, most);
+    const GlyphRun run = fonts.Shape(prefix, style.face);
+    if (prefix.size() == text.size() || run.width * style.size > width) {
+      return FittingLength(run, style.size, width);
+    }
+  }
 }
 
 std::string_view WithoutBlanks(std::string_view text) {

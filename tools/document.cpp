@@ -56,6 +56,7 @@ void WriteDocument(const std::string& path, Output::Existing existing,
   PatientSink sink(output);
   const auto written = write(sink.AsSink());
   sink.Rethrow();
+  StopIfAsked();
   if (!written) throw Failure("cannot print " + path + ": " + written.error());
   output.Finish();
 }

@@ -47,6 +47,13 @@ TEST(PictureFile, SvgHasTheSizeAndNeedsNothingElse) {
   EXPECT_EQ(CountOf(svg, "</svg>"), 1);
 }
 
+TEST(PictureFile, PngTooLargeIsToldInPixels) {
+  const Sink none = [](std::span<const unsigned char>) { return true; };
+  const auto result = WritePng(PictureOfGivens(SamplePuzzle()), {.side = 72 * 28}, 1200, none);
+  ASSERT_FALSE(result);
+  EXPECT_EQ(result.error(), "a picture of 33600 pixels a side is too large: 32767 at most");
+}
+
 TEST(PictureFile, SvgDrawsEachDigitOnce) {
   EXPECT_EQ(CountOf(SvgOf(PictureOfGivens(SamplePuzzle())), "<use "), 24);
   EXPECT_EQ(CountOf(SvgOf(PictureOfSolution(SamplePuzzle())), "<use "), kCellCount);

@@ -44,6 +44,19 @@ TEST(Text, PartsWordsThatAreTooWideBetweenCharacters) {
   EXPECT_EQ(joined, word);
 }
 
+TEST(Text, WrapsAsLongAsTheTextGoesOn) {
+  std::string text;
+  for (int k = 0; k < 2000; ++k) text += "w\u00f6rd" + std::to_string(k) + " ";
+  text.pop_back();
+  std::string joined;
+  for (const std::string& line : Wrapped(TestFonts(), text, kTen, 700)) {
+    EXPECT_LE(WidthOf(TestFonts(), line, kTen), 700);
+    EXPECT_TRUE(WidthOf(TestFonts(), line, kTen) > 600 || text.ends_with(line));
+    joined += (joined.empty() ? "" : " ") + line;
+  }
+  EXPECT_EQ(joined, text);
+}
+
 TEST(Text, EveryLineTakesSomethingHoweverNarrow) {
   EXPECT_EQ(Wrapped(TestFonts(), "abc", kTen, 0).size(), 3u);
   EXPECT_TRUE(Wrapped(TestFonts(), "   ", kTen, 0).empty());
