@@ -1,6 +1,7 @@
 #include "formats/puzzle_reader.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 #include "formats/cell_text.h"
@@ -22,6 +23,22 @@ std::string Beginning(std::string_view line) {
     shown += character;
   }
   return "'" + shown + (line.size() > most ? "...'" : "'");
+}
+
+// How files begin that are taken for puzzles by mistake.
+struct Signature {
+  std::string_view bytes;
+  const char* name;
+};
+constexpr std::array kForeign{Signature{"\xFF\xFE", "UTF-16"}, Signature{"\xFE\xFF", "UTF-16"},
+                              Signature{"\x1F\x8B", "gzip"}, Signature{"PK\x03\x04", "a zip file"},
+                              Signature{"%PDF-", "PDF"}};
+
+std::optional<Fault> ForeignFault(std::string_view start) {
+  const auto begins = [&](const Signature& one) { return start.starts_with(one.bytes); };
+  const auto* const found = std::ranges::find_if(kForeign, begins);
+  if (found == kForeign.end()) return std::nullopt;
+  return Fault{0, "", "puzzles, as text in UTF-8 or as .sds", found->name};
 }
 
 const Format* FormatLike(std::string_view line) {
@@ -47,14 +64,23 @@ PuzzleReader::PuzzleReader(ByteSource source, const Format* format)
     : source_(std::move(source)), format_(format) {}
 
 PuzzleReader::Result PuzzleReader::Next() {
-  if (!std::exchange(recognised_, true)) Recognise();
+  if (!std::exchange(recognised_, true)) {
+    if (auto fault = Recognise()) return tl::unexpected(LocatedFault{{false, 1}, *fault});
+  }
   return place_.isRecord ? NextRecord() : NextLine();
 }
 
-void PuzzleReader::Recognise() {
+std::optional<Fault> PuzzleReader::Recognise() {
   Need(kSdsRecordSize);
+  const auto fault = format_ == nullptr ? ForeignFault(AtHand()) : std::nullopt;
+  if (fault) {
+    buffer_.clear();
+    ended_ = true;
+    return fault;
+  }
   place_.isRecord = format_ != nullptr ? format_->name == kSdsName : LooksLikeSds(AtHand());
   if (!place_.isRecord && AtHand().starts_with(kByteOrderMark)) start_ += kByteOrderMark.size();
+  return std::nullopt;
 }
 
 PuzzleReader::Result PuzzleReader::NextRecord() {

@@ -50,7 +50,8 @@ class PuzzleReader {
  private:
   using Result = std::optional<tl::expected<LocatedPuzzle, LocatedFault>>;
 
-  void Recognise();
+  // The fault of an input that is of no format at all, after which nothing is left of it.
+  std::optional<Fault> Recognise();
   Result NextRecord();
   Result NextLine();
   Result Located(Reading reading) const;

@@ -41,6 +41,14 @@ TEST(PuzzleReader, FindsRecordsByTheirBytes) {
   EXPECT_EQ(Read(record + record), (Told{"puzzle at record 1", "puzzle at record 2"}));
 }
 
+TEST(PuzzleReader, NamesFilesThatAreOfNoFormatOnce) {
+  using namespace std::string_literals;
+  const std::string expected = "f:1:1: expected puzzles, as text in UTF-8 or as .sds, found ";
+  EXPECT_EQ(Read("\xFF\xFE\x31\x00\n\x00"s + ExampleIn("text")), Told{expected + "UTF-16"});
+  EXPECT_EQ(Read("\x1F\x8B\x08\x00\n"s + ExampleIn("text")), Told{expected + "gzip"});
+  EXPECT_EQ(Read("%PDF-1.5\n" + ExampleIn("text")), Told{expected + "PDF"});
+}
+
 TEST(PuzzleReader, GoesOnAfterABadRecord) {
   const std::string record = ExampleIn("sds");
   std::string bad = record;
