@@ -31,7 +31,7 @@ void HelpActions::OpenKeys() {
 }
 
 void HelpActions::OpenAbout() {
-  about_ = Open(about_, "About", {520, 420},
+  about_ = Open(about_, "About", {540, 490},
                 [this](QTextBrowser& page) { page.setHtml(AboutPage(logic_.PuzzleFilePath())); });
 }
 
