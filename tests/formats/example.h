@@ -1,4 +1,4 @@
-// One puzzle that stands in tests/formats/examples in every format.
+// One puzzle that stands in tests/formats/golden in every format.
 #pragma once
 
 #include <fstream>
@@ -32,7 +32,7 @@ inline DescribedPuzzle Example() {
 
 // The bytes of examples/irregular.NAME.
 inline std::string ExampleIn(std::string_view format) {
-  std::ifstream file(SourceFolder() + "/tests/formats/examples/irregular." + std::string(format),
+  std::ifstream file(SourceFolder() + "/tests/formats/golden/irregular." + std::string(format),
                      std::ios::binary);
   return {std::istreambuf_iterator<char>(file), {}};
 }

@@ -15,7 +15,7 @@ using formats::ExampleIn;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-const std::string kExamples = SourceFolder() + "/tests/formats/examples/irregular.";
+const std::string kExamples = SourceFolder() + "/tests/formats/golden/irregular.";
 
 Outcome Convert(const std::string& to, const std::string& from) {
   return RunTessel({"convert", "--to", to, kExamples + from});
