@@ -121,6 +121,17 @@ TEST(KeptGame, ForgedTextIsRefusedWithItsLine) {
   EXPECT_TRUE(ReadGame(Forged(game, 6, "-1")).has_value());
 }
 
+// The givens agree with it, but two cells of a row have each other's digits.
+TEST(KeptGame, SolutionThatBreaksARuleIsRefused) {
+  KeptGame game = Played(2, 1);
+  int cell = 0;
+  while (IsKnownGiven(cell) || IsKnownGiven(cell + 1) || ColumnOf(cell) == kSide - 1) ++cell;
+  std::swap(game.puzzle.Solution[cell], game.puzzle.Solution[cell + 1]);
+  const auto read = ReadGame(TextOf(game));
+  ASSERT_FALSE(read.has_value());
+  EXPECT_TRUE(read.error().ends_with("the solution does not fit")) << read.error();
+}
+
 TEST(KeptGame, ForeignTextIsRefused) {
   for (const char* text : {"", "\n", "end ", "Tessel Sudoku game 1\n", "{\"format\": 1}"}) {
     EXPECT_FALSE(ReadGame(text).has_value()) << text;
