@@ -56,6 +56,24 @@ Manifest ManifestOfSameRun(const std::string& path, const MakeOptions& options) 
   return manifest;
 }
 
+// As a run leaves the file that is killed before its first state.
+bool HoldsNoRecord(const MakeOptions& options) {
+  std::error_code failed;
+  const auto size = std::filesystem::file_size(options.output, failed);
+  return !failed && size <= HeaderOf(options).size();
+}
+
+// Those that were being written when their run was killed; their names end in six letters.
+void RemoveHalfStates(const std::filesystem::path& state) {
+  const std::string stem = state.filename().string() + ".";
+  std::error_code ignored;
+  for (const auto& file : std::filesystem::directory_iterator(
+           std::filesystem::absolute(state).parent_path(), ignored)) {
+    const std::string name = file.path().filename().string();
+    if (name.starts_with(stem) && name.size() == stem.size() + 6) unlink(file.path().c_str());
+  }
+}
+
 // Which puzzles are repeats is known only from all those before: they are made again, and found in
 // the output as they are.
 Manifest BeforeTheFirst(Manifest manifest, std::uint64_t first) {
@@ -78,20 +96,23 @@ Making::Making(const MakeOptions& options)
     Resume(StatePath());
   } else if (resumes && IsThere(options_.manifest)) {
     Resume(options_.manifest);
-  } else if (resumes) {
+  } else if (resumes && !HoldsNoRecord(options_)) {
     throw Failure("nothing tells how far " + options_.output + " has come: there is no " +
                   StatePath());
   } else {
-    Begin();
+    Begin(resumes);
   }
   notice_.emplace(options_, tally_);
 }
 
-void Making::Begin() {
+void Making::Begin(bool overNothing) {
   if (IsThere(StatePath())) {
     throw Failure(StatePath() + " tells of a run that was ended: --resume goes on with it");
   }
-  output_ = std::make_unique<RecordOutput>(options_.output, SharingOf(options_));
+  const RecordOutput::Done nothing{0, 0, Sha256().Hex()};
+  output_ = overNothing
+                ? std::make_unique<RecordOutput>(options_.output, SharingOf(options_), nothing)
+                : std::make_unique<RecordOutput>(options_.output, SharingOf(options_));
   pending_ = HeaderOf(options_);
 }
 
@@ -192,7 +213,9 @@ void Making::Finish() {
   Checkpoint();
   output_->Sync();
   if (!options_.manifest.empty()) WriteManifest(options_.manifest, ManifestNow(Enough()));
-  if (output_->IsFile() && Enough()) unlink(StatePath().c_str());
+  if (!output_->IsFile() || !Enough()) return;
+  unlink(StatePath().c_str());
+  RemoveHalfStates(StatePath());
 }
 
 double Making::SecondsSoFar() const {

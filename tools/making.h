@@ -32,7 +32,8 @@ class Making {
  private:
   using Batch = std::vector<MakeRecord>;
 
-  void Begin();
+  // `overNothing`: there is a file already, which holds no record.
+  void Begin(bool overNothing);
   void Resume(const std::string& manifest);
   void MakeAll();
   // The records of the puzzles begin..end-1; for several threads at once.

@@ -109,6 +109,23 @@ TEST_F(EndedMake, AFileWithoutItsStateIsRefused) {
   EXPECT_EQ(Contents("p.txt"), "mine");
 }
 
+// Killed after the file was made, or in the middle of the header, and while a state was written.
+TEST_F(EndedMake, ARunKilledBeforeItsFirstStateGoesOn) {
+  const std::string run = "--seed 5 --tries 20 --jobs 1 --format csv";
+  const std::string expected = Make(run).out;
+  for (const std::size_t left : {std::size_t{0}, std::size_t{5}, expected.find('\n') + 1}) {
+    Put("p.csv", expected.substr(0, left));
+    Put("p.csv.unfinished.Ab3dE6", "{");
+    const Outcome outcome = Make(run + " --output p.csv --resume");
+    EXPECT_EQ(outcome.code, 0) << outcome.err;
+    EXPECT_EQ(Contents("p.csv"), expected);
+    EXPECT_EQ(Files(), 1U);
+  }
+  Put("p.csv", "mine");
+  EXPECT_EQ(Make(run + " --output p.csv --resume").code, 1);
+  EXPECT_EQ(Contents("p.csv"), "mine");
+}
+
 TEST_F(EndedMake, AClosedPipeIsQuiet) {
   const Outcome outcome =
       Shell("\"$tessel\" make --seed 5 --want 1000000 | head -n 3; exit ${PIPESTATUS[0]}");
