@@ -1,28 +1,20 @@
 #include "core/markup.h"
 
+#include <array>
+
+#include "core/text_replacement.h"
+
 namespace tessel {
 
 namespace {
 
-std::string EscapedForMarkup(char character) {
-  switch (character) {
-    case '&':
-      return "&amp;";
-    case '<':
-      return "&lt;";
-    case '"':
-      return "&quot;";
-    default:
-      return {character};
-  }
-}
+constexpr std::array kEntities{Replacement{'&', "&amp;"}, Replacement{'<', "&lt;"},
+                               Replacement{'"', "&quot;"}};
 
 }  // namespace
 
 std::string EscapedForMarkup(std::string_view text) {
-  std::string escaped;
-  for (const char character : text) escaped += EscapedForMarkup(character);
-  return escaped;
+  return Replaced(text, kEntities);
 }
 
 }  // namespace tessel

@@ -1,6 +1,9 @@
 #include "explain/page.h"
 
+#include <array>
+
 #include "core/markup.h"
+#include "core/text_replacement.h"
 #include "explain/page_parts.h"
 #include "paper/picture_file.h"
 
@@ -29,29 +32,14 @@ std::string WithShortNumbers(std::string_view svg) {
   return shortened;
 }
 
-// How a character is written within a link and within an attribute in double quotes.
-std::string InLink(char character) {
-  switch (character) {
-    case '"':
-      return "'";
-    case '#':
-      return "%23";
-    case '%':
-      return "%25";
-    case '&':
-      return "%26";
-    case '\n':
-      return " ";
-    default:
-      return {character};
-  }
-}
+// Within a link, and within an attribute in double quotes.
+constexpr std::array kInLink{Replacement{'"', "'"}, Replacement{'#', "%23"},
+                             Replacement{'%', "%25"}, Replacement{'&', "%26"},
+                             Replacement{'\n', " "}};
 
 // A link rather than an element, because the names of glyphs repeat from picture to picture.
 std::string DataLink(std::string_view svg) {
-  std::string link = "data:image/svg+xml,";
-  for (const char character : WithShortNumbers(svg)) link += InLink(character);
-  return link;
+  return "data:image/svg+xml," + Replaced(WithShortNumbers(svg), kInLink);
 }
 
 class Page {

@@ -3,7 +3,6 @@
 #include <array>
 
 #include "formats/json_board.h"
-#include "formats/link.h"
 
 namespace tessel::formats {
 
@@ -118,12 +117,14 @@ bool LooksLikeFPuzzles(std::string_view line) {
 }
 
 Reading ReadFPuzzles(std::string_view line) {
-  const auto root = LinkedJson(line, kMarkers);
-  if (!root) return tl::unexpected(root.error());
-  const Json* const size = Member(*root, "size");
+  return LinkedJson(line, kMarkers).and_then(FPuzzlesFromJson);
+}
+
+Reading FPuzzlesFromJson(const Json& root) {
+  const Json* const size = Member(root, "size");
   if (size == nullptr || *size != kSide) return tl::unexpected(JsonFault("/size", "9", size));
-  if (auto fault = ForeignRule(*root, kRulesOfOthers)) return tl::unexpected(*fault);
-  const auto cells = CellObjects(*root, "grid");
+  if (auto fault = ForeignRule(root, kRulesOfOthers)) return tl::unexpected(*fault);
+  const auto cells = CellObjects(root, "grid");
   if (!cells) return tl::unexpected(cells.error());
   const auto cages = Regions(*cells);
   if (!cages) return tl::unexpected(cages.error());
@@ -131,7 +132,7 @@ Reading ReadFPuzzles(std::string_view line) {
   if (!givens) return tl::unexpected(givens.error());
   const auto placed = DigitsOf(*cells, "/grid", [](const Json& cell) { return !IsGiven(cell); });
   if (!placed) return tl::unexpected(placed.error());
-  return Described(*root, *cages, "/grid", *givens, Member(*root, "solution"), *root)
+  return Described(root, *cages, "/grid", *givens, Member(root, "solution"), root)
       .map([&](DescribedPuzzle described) {
         if (*placed != Grid{}) described.placed = *placed;
         described.pencilMarks = MarksOf(*cells, "centerPencilMarks");
@@ -140,13 +141,17 @@ Reading ReadFPuzzles(std::string_view line) {
 }
 
 Writing WriteFPuzzles(const DescribedPuzzle& described) {
+  return LinkTo("https://f-puzzles.com/?load=", FPuzzlesJson(described));
+}
+
+OrderedJson FPuzzlesJson(const DescribedPuzzle& described) {
   OrderedJson root{{"size", kSide},
                    {"title", TitleOf(described)},
                    {"author", AuthorOf(described)},
                    {"ruleset", kRules},
                    {"grid", GridOf(described)}};
   if (described.puzzle.solution) root["solution"] = *described.puzzle.solution;
-  return LinkTo("https://f-puzzles.com/?load=", root);
+  return root;
 }
 
 }  // namespace tessel::formats

@@ -1,9 +1,11 @@
 #include "formats/link.h"
 
 #include <algorithm>
+#include <array>
 #include <stdexcept>
 #include <vector>
 
+#include "core/text_replacement.h"
 #include "formats/cell_text.h"
 #include "formats/lz_string.h"
 #include "formats/unicode.h"
@@ -71,19 +73,9 @@ Fault PackingFault(std::string_view line, const Payload& payload, LzFault fault)
 
 struct TooDeep : std::exception {};
 
-tl::expected<Json, std::string> Parsed(const std::string& text) {
-  const auto shallow = [](int depth, Json::parse_event_t, Json&) {
-    if (depth > kMaxJsonDepth) throw TooDeep();
-    return true;
-  };
-  try {
-    return Json::parse(text, shallow);
-  } catch (const Json::parse_error& error) {
-    const std::string message = error.what();
-    return tl::unexpected(message.substr(message.find("] ") + 2));
-  } catch (const TooDeep&) {
-    return tl::unexpected("lists more than " + std::to_string(kMaxJsonDepth) + " deep");
-  }
+std::string Shortened(std::string text, std::size_t most) {
+  if (text.size() > most) text = text.substr(0, most) + "...";
+  return text;
 }
 
 bool SaysSomething(const Json& value) {
@@ -91,24 +83,29 @@ bool SaysSomething(const Json& value) {
   return !value.is_null() && !value.empty();
 }
 
-// A letter of base64.
-std::string InAddress(char letter) {
-  switch (letter) {
-    case '+':
-      return "%2B";
-    case '/':
-      return "%2F";
-    case '=':
-      return "%3D";
-    default:
-      return {letter};
-  }
-}
+// What base64 has of letters that mean something in an address.
+constexpr std::array kInAddress{Replacement{'+', "%2B"}, Replacement{'/', "%2F"},
+                                Replacement{'=', "%3D"}};
 
 }  // namespace
 
 bool HasMarker(std::string_view line, std::span<const std::string_view> markers) {
   return BehindMarker(line, markers) < line.size();
+}
+
+tl::expected<Json, std::string> JsonOf(const std::string& text) {
+  const auto shallow = [](int depth, Json::parse_event_t, Json&) {
+    if (depth > kMaxJsonDepth) throw TooDeep();
+    return true;
+  };
+  try {
+    return Json::parse(text, shallow);
+  } catch (const Json::exception& error) {  // no JSON, or a number of more than 308 digits
+    const std::string message = error.what();
+    return tl::unexpected(Shortened(message.substr(message.find("] ") + 2), 200));
+  } catch (const TooDeep&) {
+    return tl::unexpected("lists more than " + std::to_string(kMaxJsonDepth) + " deep");
+  }
 }
 
 tl::expected<Json, Fault> LinkedJson(std::string_view line,
@@ -119,27 +116,22 @@ tl::expected<Json, Fault> LinkedJson(std::string_view line,
   if (!units) return tl::unexpected(PackingFault(line, payload, units.error()));
   const auto text = Utf8Of(*units);
   if (!text) return tl::unexpected(Fault{start, "in its JSON", "Unicode", "half a character"});
-  auto json = Parsed(*text);
+  auto json = JsonOf(*text);
   if (!json) return tl::unexpected(Fault{start, "in its JSON", "valid JSON", json.error()});
   return *std::move(json);
 }
 
 std::string LinkTo(std::string_view address, const OrderedJson& json) {
   const std::string text = json.dump(-1, ' ', true);
-  std::string link(address);
-  for (const char letter : LzCompressed(std::u16string(text.begin(), text.end()))) {
-    link += InAddress(letter);
-  }
-  return link + "\n";
+  const std::string packed = LzCompressed(std::u16string(text.begin(), text.end()));
+  return std::string(address) + Replaced(packed, kInAddress) + "\n";
 }
 
 Fault JsonFault(const std::string& where, std::string expected, const Json* found) {
-  constexpr std::size_t most = 40;
   std::string shown =
       found == nullptr ? "nothing" : found->dump(-1, ' ', true, Json::error_handler_t::replace);
-  if (shown.size() > most) shown = shown.substr(0, most) + "...";
   return {0, "in its JSON, at " + (where.empty() ? "/" : where), std::move(expected),
-          std::move(shown)};
+          Shortened(std::move(shown), 40)};
 }
 
 std::string TextOf(const Json& object, const char* name) {

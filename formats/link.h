@@ -1,10 +1,9 @@
 // Links that carry a puzzle as compressed JSON.
 //
-//   link    = address payload                         address ends with the format's marker
-//   payload = base64 of lz-string of JSON             '+', '/' and '=' as they are or as %2B %2F
-//   %3D;
-//                                                     a blank stands for '+'
-//   JSON    = UTF-8, or the UTF-16 of JavaScript      told apart by their bytes
+//   link    = address payload               address ends with the format's marker
+//   payload = base64 of lz-string of JSON   '+', '/' and '=' as they are or as %2B %2F %3D;
+//                                           a blank stands for '+'
+//   JSON    = UTF-8, or the UTF-16 of JavaScript, told apart by their bytes
 //
 // Written with all characters beyond ASCII as \uXXXX, which both readings understand.
 #pragma once
@@ -27,6 +26,8 @@ using OrderedJson = nlohmann::ordered_json;
 
 // Whether the line is a link that has one of the markers.
 bool HasMarker(std::string_view line, std::span<const std::string_view> markers);
+// The error says where and why the text is no JSON, or none that a link should have.
+tl::expected<Json, std::string> JsonOf(const std::string& text);
 // The JSON behind the marker.
 tl::expected<Json, Fault> LinkedJson(std::string_view line,
                                      std::span<const std::string_view> markers);

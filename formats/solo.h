@@ -1,10 +1,11 @@
 // Game IDs of Solo, in the Portable Puzzle Collection.
 //
-//   id    = 9j {word} : grid , walls                  word: symmetry and difficulty, skipped
+//   id    = 9j {word} : grid , walls           word: symmetry and difficulty, skipped
 //   word  = a | r number | m [d] number | d letter
-//   grid  = 81 cells of digit | run, '_' between two digits      run: letters a = 1 .. z = 26,
-//   added up walls = {letter}                                  edges without a wall before one, _ =
-//   0, a = 1 .. y = 25
+//   grid  = 81 cells of digit | run            '_' between two digits;
+//                                              run: letters a = 1 .. z = 26, added up
+//   walls = {letter}                           edges without a wall before one:
+//                                              _ = 0, a = 1 .. y = 25
 //
 // The 144 edges inside the board: first the 72 between neighbours in a row, row by row, then the 72
 // between neighbours in a column, column by column, then one that has a wall always. 'z' means 25

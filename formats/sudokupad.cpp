@@ -4,7 +4,6 @@
 
 #include "formats/cell_text.h"
 #include "formats/json_board.h"
-#include "formats/link.h"
 
 namespace tessel::formats {
 
@@ -86,19 +85,21 @@ bool LooksLikeSudokuPad(std::string_view line) {
 }
 
 Reading ReadSudokuPad(std::string_view line) {
-  const auto root = LinkedJson(line, kMarkers);
-  if (!root) return tl::unexpected(root.error());
-  if (!root->is_object()) return tl::unexpected(JsonFault("", "an object", &*root));
-  if (auto fault = ForeignRule(*root, kRulesOfOthers)) return tl::unexpected(*fault);
-  const auto cages = Regions(*root);
+  return LinkedJson(line, kMarkers).and_then(SudokuPadFromJson);
+}
+
+Reading SudokuPadFromJson(const Json& root) {
+  if (!root.is_object()) return tl::unexpected(JsonFault("", "an object", &root));
+  if (auto fault = ForeignRule(root, kRulesOfOthers)) return tl::unexpected(*fault);
+  const auto cages = Regions(root);
   if (!cages) return tl::unexpected(cages.error());
-  const auto cells = CellObjects(*root, "cells");
+  const auto cells = CellObjects(root, "cells");
   if (!cells) return tl::unexpected(cells.error());
   const auto givens = DigitsOf(*cells, "/cells", [](const Json&) { return true; });
   if (!givens) return tl::unexpected(givens.error());
-  const Json* const metadata = Member(*root, "metadata");
-  const Json& words = metadata == nullptr ? *root : *metadata;
-  return Described(*root, *cages, "/regions", *givens, Member(words, "solution"), words)
+  const Json* const metadata = Member(root, "metadata");
+  const Json& words = metadata == nullptr ? root : *metadata;
+  return Described(root, *cages, "/regions", *givens, Member(words, "solution"), words)
       .map([&](DescribedPuzzle puzzle) {
         puzzle.pencilMarks = MarksOf(*cells, "centremarks");
         return puzzle;
@@ -106,14 +107,18 @@ Reading ReadSudokuPad(std::string_view line) {
 }
 
 Writing WriteSudokuPad(const DescribedPuzzle& described) {
+  return LinkTo("https://sudokupad.app/scl", SudokuPadJson(described));
+}
+
+OrderedJson SudokuPadJson(const DescribedPuzzle& described) {
   const Puzzle& puzzle = described.puzzle;
   OrderedJson metadata{
       {"title", TitleOf(described)}, {"author", AuthorOf(described)}, {"rules", kRules}};
   if (puzzle.solution) metadata["solution"] = GridText(*puzzle.solution, '.');
-  return LinkTo("https://sudokupad.app/scl", OrderedJson{{"cells", Cells(puzzle.givens)},
-                                                         {"regions", Regions(puzzle.layout)},
-                                                         {"cages", OrderedJson::array()},
-                                                         {"metadata", std::move(metadata)}});
+  return {{"cells", Cells(puzzle.givens)},
+          {"regions", Regions(puzzle.layout)},
+          {"cages", OrderedJson::array()},
+          {"metadata", std::move(metadata)}};
 }
 
 }  // namespace tessel::formats

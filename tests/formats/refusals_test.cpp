@@ -119,6 +119,12 @@ TEST(Refusals, OfCutAndDamagedLinks) {
             "f:1:101: expected a letter of base64, found '*'");
 }
 
+TEST(Refusals, OfNumbersThatAreTooLarge) {
+  EXPECT_EQ(FPuzzles("{\"size\":1e999}"),
+            "f:1:29: in its JSON: expected valid JSON, found number overflow parsing '1e999'");
+  EXPECT_LT(FPuzzles(std::string(100'000, '9') + "e999").size(), 300U);
+}
+
 TEST(Refusals, OfJsonThatIsNone) {
   EXPECT_EQ(FPuzzles("{\"size\":9,"),
             "f:1:29: in its JSON: expected valid JSON, found parse error at line 1, column 11: "
