@@ -98,6 +98,7 @@ void ReadLayouts(Options& options) {
 
 Work DeclareCheck(CLI::App& app) {
   const auto options = std::make_shared<Options>();
+  options->input.purpose = "check";
   options->input.Declare(app);
   app.add_flag("--layout", options->layout,
                "Read layouts, 81 characters a line, and tell whether each can be filled");

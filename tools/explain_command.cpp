@@ -174,6 +174,7 @@ int ExplainAll(const Options& options) {
 
 Work DeclareExplain(CLI::App& app) {
   const auto options = std::make_shared<Options>();
+  options->input.purpose = "explain";
   options->input.Declare(app);
   app.add_option("-o,--output", options->output,
                  "The .html, .pdf or .txt to write; text to standard output if not told")

@@ -59,6 +59,9 @@ class Visiting {
     if (faults_ > kMaxFaultsTold) {
       std::cerr << "... and " << faults_ - kMaxFaultsTold << " more\n";
     }
+    if (puzzles_ + faults_ == 0 && !input_.purpose.empty()) {
+      throw Failure("there is nothing to " + input_.purpose);
+    }
     return faults_ == 0;
   }
 

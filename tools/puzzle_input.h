@@ -15,6 +15,7 @@ struct PuzzleInput {
   std::vector<std::string> files{"-"};    // "-": standard input
   std::string from;                       // the name of a format; empty: found by looking
   const formats::Format* only = nullptr;  // read as this, whatever the options say
+  std::string purpose{};                  // "check"; empty: there may be no puzzles at all
 
   void Declare(CLI::App& app);
 };
@@ -28,7 +29,8 @@ using PuzzleVisitor =
     std::function<void(formats::DescribedPuzzle puzzle, const std::string& place)>;
 
 // Calls `visit` with every puzzle of the files, numbered from 0 on, and tells every fault on
-// standard error. False when there was one.
+// standard error. False when there was one. Throws Failure when there was neither, though puzzles
+// are wanted for a purpose.
 [[nodiscard]] bool ForEachPuzzle(const PuzzleInput& input, const PuzzleVisitor& visit);
 
 }  // namespace tessel::tools

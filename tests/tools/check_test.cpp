@@ -35,6 +35,17 @@ TEST(Check, TellsOneSolution) {
                              "\n");
 }
 
+// A download that failed must not look like a puzzle that is right.
+TEST(Check, AnInputWithoutPuzzlesFails) {
+  for (const char* const input : {"", "\n", "# nothing but a comment\n"}) {
+    for (const std::vector<std::string>& options : {std::vector<std::string>{}, {"--layout"}}) {
+      const Outcome outcome = Check(input, options);
+      EXPECT_EQ(outcome.code, 1);
+      EXPECT_EQ(outcome.err, "tessel check: there is nothing to check\n");
+    }
+  }
+}
+
 TEST(Check, TellsASolutionThatIsAnother) {
   std::string record = ExampleIn("sds");
   std::swap(record[81], record[83]);  // r1c1 and r1c3, no givens

@@ -42,6 +42,12 @@ TEST(Explain, OtherOutputsAreWrongOptions) {
   EXPECT_EQ(RunTessel({"explain", "-o", "way.pdf", "--page", "tiny"}).code, 2);
 }
 
+TEST(Explain, AnInputWithoutPuzzlesFails) {
+  const Outcome outcome = RunTessel({"explain"}, "# nothing but a comment\n");
+  EXPECT_EQ(outcome.code, 1);
+  EXPECT_EQ(outcome.err, "tessel explain: there is nothing to explain\n");
+}
+
 TEST(Explain, GoesOnAfterAPuzzleThatHasNoWay) {
   const std::string empty = std::string(81, '.') + " " + std::string(formats::kExampleCages);
   const Outcome outcome = RunTessel({"explain"}, empty + "\n" + ExampleIn("text"));
