@@ -47,9 +47,10 @@ void AddBookmark(cairo_surface_t* pdf, const PlannedPage& page, std::size_t numb
 tl::expected<void, std::string> DrawPages(cairo_surface_t* pdf, const Fonts& fonts,
                                           const BookletView& booklet, const SinkStream& stream) {
   const Context context(cairo_create(pdf));
+  CodesAhead codes(booklet);
   const std::vector<PlannedPage>& pages = booklet.plan.pages;
   for (std::size_t k = 0; k < pages.size(); ++k) {
-    const auto drawn = DrawPage(context.get(), fonts, booklet, static_cast<int>(k) + 1);
+    const auto drawn = DrawPage(context.get(), fonts, booklet, codes, static_cast<int>(k) + 1);
     if (!drawn) return drawn;
     AddBookmark(pdf, pages[k], k + 1);
     cairo_show_page(context.get());

@@ -20,10 +20,12 @@ Slot Moved(Slot slot, Point by) {
 
 class PageDrawing {
  public:
-  PageDrawing(cairo_t* context, const Fonts& fonts, const BookletView& booklet, int page)
+  PageDrawing(cairo_t* context, const Fonts& fonts, const BookletView& booklet, CodesAhead& codes,
+              int page)
       : context_(context),
         fonts_(fonts),
         booklet_(booklet),
+        codes_(codes),
         number_(page),
         page_(booklet.plan.pages[static_cast<std::size_t>(page - 1)]),
         content_(booklet.plan.ContentOf(page, booklet.options)) {}
@@ -65,6 +67,7 @@ class PageDrawing {
   cairo_t* context_;
   const Fonts& fonts_;
   const BookletView& booklet_;
+  CodesAhead& codes_;
   int number_;
   const PlannedPage& page_;
   Box content_;
@@ -106,8 +109,11 @@ tl::expected<void, std::string> PageDrawing::DrawPuzzles() const {
     const BookletPuzzle& puzzle = PuzzleAt(page_.positions[k]);
     in.linked = HasSolutionPage(puzzle);
     const Slot slot = Moved(booklet_.plan.puzzles.slots[k], {content_.x, content_.y});
-    const auto drawn = DrawPuzzleSlot(in, puzzle, options.numberFrom + page_.positions[k], slot);
-    if (!drawn) return drawn;
+    DrawPuzzleSlot(in, puzzle, options.numberFrom + page_.positions[k], slot);
+    if (!options.link) continue;
+    const QrCode code = codes_.Next();
+    if (!code) return tl::unexpected(code.error());
+    DrawStencil(context_, code->get(), slot.code);
   }
   return {};
 }
@@ -129,8 +135,8 @@ tl::expected<void, std::string> PageDrawing::DrawSolutions() const {
 }  // namespace
 
 tl::expected<void, std::string> DrawPage(cairo_t* context, const Fonts& fonts,
-                                         const BookletView& booklet, int page) {
-  return PageDrawing(context, fonts, booklet, page).Draw();
+                                         const BookletView& booklet, CodesAhead& codes, int page) {
+  return PageDrawing(context, fonts, booklet, codes, page).Draw();
 }
 
 }  // namespace tessel::paper

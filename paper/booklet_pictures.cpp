@@ -39,6 +39,8 @@ tl::expected<int, std::string> DrawBooklet(std::span<const BookletPuzzle> puzzle
   if (!plan) return tl::unexpected(plan.error());
   const double scale = pixelsPerInch / kPointsPerInch;
   const int pages = static_cast<int>(plan->pages.size());
+  const BookletView booklet{puzzles, options, *plan};
+  CodesAhead codes(booklet);
   for (int page = 1; page <= pages; ++page) {
     const auto image = BlankPage(options.page, scale);
     if (!image) return tl::unexpected(image.error());
@@ -46,7 +48,7 @@ tl::expected<int, std::string> DrawBooklet(std::span<const BookletPuzzle> puzzle
     cairo_set_source_rgb(context.get(), 1, 1, 1);
     cairo_paint(context.get());
     cairo_scale(context.get(), scale, scale);
-    const auto drawn = DrawPage(context.get(), **fonts, {puzzles, options, *plan}, page);
+    const auto drawn = DrawPage(context.get(), **fonts, booklet, codes, page);
     if (!drawn) return tl::unexpected(drawn.error());
     if (!take(PixelsOf(image->get()))) return page;
   }

@@ -5,7 +5,6 @@
 #include <numbers>
 
 #include "paper/booklet_plan.h"
-#include "paper/qr_code.h"
 #include "paper/text.h"
 
 namespace tessel::paper {
@@ -78,8 +77,8 @@ void DrawUpsideDown(const SlotContext& in, const Puzzle& puzzle, const Box& plac
 
 }  // namespace
 
-tl::expected<void, std::string> DrawPuzzleSlot(const SlotContext& in, const BookletPuzzle& puzzle,
-                                               int number, const Slot& slot) {
+void DrawPuzzleSlot(const SlotContext& in, const BookletPuzzle& puzzle, int number,
+                    const Slot& slot) {
   MarkDestination(in.context, 'p', number, slot.heading);
   DrawHeading(in, slot.heading, number, FactsOf(puzzle, in.options));
   if (in.linked) LinkTo(in.context, 's', number, slot.heading);
@@ -90,8 +89,6 @@ tl::expected<void, std::string> DrawPuzzleSlot(const SlotContext& in, const Book
   if (in.options.solutions == Solutions::kBelow && puzzle.puzzle.solution) {
     DrawUpsideDown(in, puzzle.puzzle, slot.solution);
   }
-  if (!in.options.link) return {};
-  return DrawQrCode(in.context, in.options.link(puzzle.puzzle, number), slot.code);
 }
 
 void DrawSolutionSlot(const SlotContext& in, const BookletPuzzle& puzzle, int number,

@@ -15,8 +15,9 @@ struct SlotContext {
   double headingSize = 10.0;
 };
 
-tl::expected<void, std::string> DrawPuzzleSlot(const SlotContext& in, const BookletPuzzle& puzzle,
-                                               int number, const Slot& slot);
+// All but the code.
+void DrawPuzzleSlot(const SlotContext& in, const BookletPuzzle& puzzle, int number,
+                    const Slot& slot);
 // The puzzle must have a solution.
 void DrawSolutionSlot(const SlotContext& in, const BookletPuzzle& puzzle, int number,
                       const Slot& slot);

@@ -66,23 +66,25 @@ Surface StencilOf(const QRcode& code) {
 
 // A stencil of bits takes a tenth of the time and a sixth of the bytes of a path around the
 // modules: paths are written as decimal numbers, ten thousand a code.
-tl::expected<void, std::string> DrawQrCode(cairo_t* context, std::string_view text,
-                                           const Box& place) {
+QrCode QrCodeOf(std::string_view text) {
   const Code code = Encode(text);
   if (!code) {
     return tl::unexpected("a QR code has no room for a link of " + std::to_string(text.size()) +
                           " bytes");
   }
-  const Pattern stencil(cairo_pattern_create_for_surface(StencilOf(*code).get()));
-  cairo_pattern_set_filter(stencil.get(), CAIRO_FILTER_NEAREST);
+  return StencilOf(*code);
+}
+
+void DrawStencil(cairo_t* context, cairo_surface_t* stencil, const Box& square) {
+  const Pattern pattern(cairo_pattern_create_for_surface(stencil));
+  cairo_pattern_set_filter(pattern.get(), CAIRO_FILTER_NEAREST);
   cairo_save(context);
-  cairo_translate(context, place.x, place.y);
-  const double pixels = code->width * kPixelsOfModule;
-  cairo_scale(context, place.width / pixels, place.height / pixels);
+  cairo_translate(context, square.x, square.y);
+  const double pixels = cairo_image_surface_get_width(stencil);
+  cairo_scale(context, square.width / pixels, square.height / pixels);
   cairo_set_source_rgb(context, 0, 0, 0);
-  cairo_mask(context, stencil.get());
+  cairo_mask(context, pattern.get());
   cairo_restore(context);
-  return {};
 }
 
 }  // namespace tessel::paper

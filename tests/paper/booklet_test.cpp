@@ -128,6 +128,40 @@ TEST(Booklet, AProgramForCodesReadsTheLink) {
   }
 }
 
+// Codes are made ahead, on other threads, and must not change places.
+TEST(Booklet, EachPageHasTheCodesOfItsOwnPuzzles) {
+  auto puzzles = SamplePuzzles(8);
+  for (std::size_t k = 0; k < puzzles.size(); ++k) {
+    puzzles[k].puzzle.givens = {static_cast<std::uint8_t>(k + 1)};
+    puzzles[k].grade = PrintedGrade{k % 2 == 0 ? 2 : 1, k % 2 == 0 ? "Hard" : "Easy"};
+  }
+  BookletOptions options{.perPage = 1, .numberFrom = 11, .sections = true};
+  options.link = [](const Puzzle& puzzle, int number) {
+    return "given " + std::to_string(puzzle.givens[0]) + ", number " + std::to_string(number);
+  };
+  const TemporaryFile pdf("own.pdf", BookletBytes(puzzles, options));
+  const TemporaryFile picture("own.png", "");
+  const std::string stem = picture.Path().substr(0, picture.Path().size() - 4);
+  std::string read;
+  for (int page = 1; page <= 8; ++page) {
+    const std::string pages = " -f " + std::to_string(page) + " -l " + std::to_string(page);
+    OutputOf("pdftoppm -r 100 -singlefile -png" + pages + " " + pdf.Path() + " " + stem);
+    read += OutputOf("(zbarimg -q --raw " + picture.Path() + " 2>/dev/null)").text;
+  }
+  EXPECT_EQ(read,
+            "given 2, number 11\ngiven 4, number 12\ngiven 6, number 13\ngiven 8, number 14\n"
+            "given 1, number 15\ngiven 3, number 16\ngiven 5, number 17\ngiven 7, number 18\n");
+}
+
+TEST(Booklet, ALinkThatFailsEndsTheWork) {
+  BookletOptions options;
+  options.link = [](const Puzzle&, int number) {
+    return number < 20 ? std::string("link") : throw std::runtime_error("no such link");
+  };
+  const auto taken = [](std::span<const unsigned char>) { return true; };
+  EXPECT_THROW(std::ignore = WriteBooklet(SamplePuzzles(40), options, taken), std::runtime_error);
+}
+
 TEST(Booklet, PuzzlesWithoutASolutionHaveNone) {
   auto puzzles = SamplePuzzles(3);
   puzzles[1].puzzle.solution.reset();
