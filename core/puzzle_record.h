@@ -17,4 +17,11 @@ struct PuzzleRecord {
 };
 static_assert(sizeof(PuzzleRecord) == 243, "the puzzle file holds the record byte for byte");
 
+// The number of records in a file of `length` bytes, rounded to the nearest: a fragment of up to
+// 121 bytes does not count and is overwritten by the next record, one of 122 or more stays.
+constexpr std::int64_t RecordsIn(std::int64_t length) {
+  constexpr std::int64_t recordSize = sizeof(PuzzleRecord);
+  return (length + recordSize / 2) / recordSize;
+}
+
 }  // namespace tessel

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/puzzle_record.h"
 #include "formats/cell_text.h"
 
 namespace tessel::formats {
@@ -64,9 +65,8 @@ std::string BytesOf(const Grid& grid) {
   return {grid.begin(), grid.end()};
 }
 
-// The window's program overwrites a tail of less than half a record.
 std::string EndAfter(std::size_t bytes) {
-  const bool isOverwritten = bytes <= kSdsRecordSize / 2;
+  const bool isOverwritten = RecordsIn(static_cast<std::int64_t>(bytes)) == 0;
   return "the end of the file after " + std::to_string(bytes) +
          (isOverwritten ? "; the next puzzle saved overwrites them" : "");
 }

@@ -12,6 +12,7 @@ enum class LayoutKind : std::uint8_t {
   kRotational,  // a half turn brings every cage to the place of another one, or of itself
   kRegular,     // the nine boxes
 };
+inline constexpr int kLayoutKindCount = 3;
 
 struct Recipe {
   LayoutKind layout = LayoutKind::kRandom;

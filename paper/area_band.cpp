@@ -18,23 +18,18 @@ void AddEdge(cairo_t* context, const Box& cell, CellSide side) {
 }  // namespace
 
 // The line is drawn on the edge, twice as wide as wanted; the clip leaves the inner half.
-void DrawBand(cairo_t* context, CellSet area, Point origin, double cellSide,
-              const BandStyle& style) {
-  const auto boxOf = [&](int cell) {
-    return Box{origin.x + ColumnOf(cell) * cellSide, origin.y + RowOf(cell) * cellSide, cellSide,
-               cellSide};
-  };
+void DrawBand(cairo_t* context, CellSet area, const CellGrid& grid, const BandStyle& style) {
   const auto together = [&](int a, int b) { return area.Contains(a) == area.Contains(b); };
   cairo_save(context);
-  AddCells(context, area, origin, cellSide);
+  AddCells(context, area, grid);
   cairo_clip(context);
   ForEach(area, [&](int cell) {
     for (const CellSide side : kCellSides) {
-      if (IsWall(cell, side, together)) AddEdge(context, boxOf(cell), side);
+      if (IsWall(cell, side, together)) AddEdge(context, grid.BoxOf(cell), side);
     }
   });
   // Each edge begins and ends with half a dash, so that the dashes meet at corners.
-  const double dash = cellSide / 4;
+  const double dash = grid.side / 4;
   if (style.dashed) cairo_set_dash(context, &dash, 1, dash / 2);
   cairo_set_line_cap(context, style.dashed ? CAIRO_LINE_CAP_BUTT : CAIRO_LINE_CAP_SQUARE);
   cairo_set_line_width(context, style.wall + 2 * style.width);

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "core/cell_set.h"
-#include "paper/cairo_handles.h"
+#include "paper/cell_grid.h"
 
 namespace tessel::paper {
 
@@ -12,8 +12,7 @@ struct BandStyle {
   bool dashed = false;
 };
 
-// Draws along the inside of the area's edges, on a board whose cell 0 has its corner at `origin`.
-void DrawBand(cairo_t* context, CellSet area, Point origin, double cellSide,
-              const BandStyle& style);
+// Draws along the inside of the area's edges.
+void DrawBand(cairo_t* context, CellSet area, const CellGrid& grid, const BandStyle& style);
 
 }  // namespace tessel::paper

@@ -48,9 +48,9 @@ class Drawing {
         fonts_(fonts),
         picture_(picture),
         style_(style),
-        side_(CellSideOf(style, picture.captions)) {
-    const double before = (kFrame / 2 + (picture.captions ? kCaptionBand : 0.0)) * side_;
-    origin_ = {corner.x + before, corner.y + before};
+        grid_{corner, CellSideOf(style, picture.captions)} {
+    const double before = (kFrame / 2 + (picture.captions ? kCaptionBand : 0.0)) * grid_.side;
+    grid_.origin = {corner.x + before, corner.y + before};
   }
 
   void Draw() const {
@@ -58,20 +58,13 @@ class Drawing {
     FillHighlights();
     DrawBands();
     DrawThinLines();
-    DrawMarks(context_, fonts_, picture_, {origin_, side_});
+    DrawMarks(context_, fonts_, picture_, grid_);
     DrawDigits();
     DrawWalls();
     if (picture_.captions) DrawCaptions();
   }
 
  private:
-  Point CornerOf(int cell) const {
-    return {origin_.x + ColumnOf(cell) * side_, origin_.y + RowOf(cell) * side_};
-  }
-  Point CentreOf(int cell) const {
-    const Point corner = CornerOf(cell);
-    return {corner.x + side_ / 2, corner.y + side_ / 2};
-  }
   void SetColour(const Colour& colour) const {
     cairo_set_source_rgb(context_, colour.red, colour.green, colour.blue);
   }
@@ -91,12 +84,11 @@ class Drawing {
   const Fonts& fonts_;
   const BoardPicture& picture_;
   const BoardStyle& style_;
-  double side_;
-  Point origin_;
+  CellGrid grid_;
 };
 
 void Drawing::FillCells(CellSet cells, const Colour& colour) const {
-  AddCells(context_, cells, origin_, side_);
+  AddCells(context_, cells, grid_);
   SetColour(colour);
   cairo_fill(context_);
 }
@@ -118,80 +110,83 @@ void Drawing::FillTints() const {
 // The inner frame tells highlighted cells where the ground's colour is not to be seen.
 void Drawing::FillHighlights() const {
   FillCells(picture_.highlighted, kHighlight);
-  const double inset = (kWall / 2 + 0.045) * side_;
+  const double inset = (kWall / 2 + 0.045) * grid_.side;
   ForEach(picture_.highlighted, [&](int cell) {
-    const Point corner = CornerOf(cell);
-    cairo_rectangle(context_, corner.x + inset, corner.y + inset, side_ - 2 * inset,
-                    side_ - 2 * inset);
+    const Box box = grid_.BoxOf(cell);
+    cairo_rectangle(context_, box.x + inset, box.y + inset, grid_.side - 2 * inset,
+                    grid_.side - 2 * inset);
   });
   SetGrey(0.45);
-  cairo_set_line_width(context_, 0.02 * side_);
+  cairo_set_line_width(context_, 0.02 * grid_.side);
   cairo_stroke(context_);
 }
 
 void Drawing::DrawBands() const {
   bool dashed = false;
   for (const CellSet area : picture_.areas) {
-    DrawBand(context_, area, origin_, side_, {kBand * side_, kWall * side_, dashed});
+    DrawBand(context_, area, grid_, {kBand * grid_.side, kWall * grid_.side, dashed});
     dashed = true;
   }
 }
 
 void Drawing::DrawThinLines() const {
-  const double length = kSide * side_;
+  const double length = kSide * grid_.side;
   for (int line = 1; line < kSide; ++line) {
-    const double at = line * side_;
-    cairo_move_to(context_, origin_.x + at, origin_.y);
+    const double at = line * grid_.side;
+    cairo_move_to(context_, grid_.origin.x + at, grid_.origin.y);
     cairo_rel_line_to(context_, 0, length);
-    cairo_move_to(context_, origin_.x, origin_.y + at);
+    cairo_move_to(context_, grid_.origin.x, grid_.origin.y + at);
     cairo_rel_line_to(context_, length, 0);
   }
   SetGrey(kThinLineGrey);
   cairo_set_line_cap(context_, CAIRO_LINE_CAP_BUTT);
-  cairo_set_line_width(context_, std::max(kMinThinLine, kThinLine * side_));
+  cairo_set_line_width(context_, std::max(kMinThinLine, kThinLine * grid_.side));
   cairo_stroke(context_);
 }
 
 void Drawing::DrawDigits() const {
   DrawCellDigits(Face::kBold, picture_.givens);
   DrawCellDigits(Face::kRegular, kAllCells - picture_.givens);
-  ForEach(picture_.placed, [&](int cell) { AddRing(context_, CentreOf(cell), 0.4 * side_); });
-  StrokeRings(context_, side_);
+  ForEach(picture_.placed,
+          [&](int cell) { AddRing(context_, grid_.CentreOf(cell), 0.4 * grid_.side); });
+  StrokeRings(context_, grid_.side);
 }
 
 void Drawing::DrawCellDigits(Face face, CellSet cells) const {
-  DigitRun run(fonts_, face, style_.digitSize * side_);
+  DigitRun run(fonts_, face, style_.digitSize * grid_.side);
   ForEach(cells, [&](int cell) {
-    if (picture_.digits[cell] != 0) run.Add(picture_.digits[cell], CentreOf(cell));
+    if (picture_.digits[cell] != 0) run.Add(picture_.digits[cell], grid_.CentreOf(cell));
   });
   run.Show(context_, 0.0);
 }
 
 void Drawing::DrawWalls() const {
   for (const WallRun& run : CageWallRuns(picture_.layout)) {
-    cairo_move_to(context_, origin_.x + run.from.column * side_, origin_.y + run.from.row * side_);
-    cairo_line_to(context_, origin_.x + run.to.column * side_, origin_.y + run.to.row * side_);
+    cairo_move_to(context_, grid_.origin.x + run.from.column * grid_.side,
+                  grid_.origin.y + run.from.row * grid_.side);
+    cairo_line_to(context_, grid_.origin.x + run.to.column * grid_.side,
+                  grid_.origin.y + run.to.row * grid_.side);
   }
   SetGrey(0);
   cairo_set_line_cap(context_, CAIRO_LINE_CAP_SQUARE);
-  cairo_set_line_width(context_, kWall * side_);
+  cairo_set_line_width(context_, kWall * grid_.side);
   cairo_stroke(context_);
-  cairo_rectangle(context_, origin_.x, origin_.y, kSide * side_, kSide * side_);
+  cairo_rectangle(context_, grid_.origin.x, grid_.origin.y, kSide * grid_.side, kSide * grid_.side);
   cairo_set_line_join(context_, CAIRO_LINE_JOIN_MITER);
-  cairo_set_line_width(context_, kFrame * side_);
+  cairo_set_line_width(context_, kFrame * grid_.side);
   cairo_stroke(context_);
 }
 
 void Drawing::DrawCaptions() const {
-  const TextStyle text{Face::kRegular, 0.36 * side_, 0.25};
+  const TextStyle text{Face::kRegular, 0.36 * grid_.side, 0.25};
   const double half = fonts_.DigitHeight(text.face) * text.size / 2;
-  const double away = (kFrame / 2 + kCaptionBand / 2) * side_;
+  const double away = (kFrame / 2 + kCaptionBand / 2) * grid_.side;
   for (int line = 0; line < kSide; ++line) {
-    const double middle = (line + 0.5) * side_;
+    const double middle = (line + 0.5) * grid_.side;
     DrawText(context_, fonts_, std::string(1, kRowLetters[line]), text,
-             {origin_.x - away, origin_.y + middle + half}, Align::kCentre);
+             {grid_.origin.x - away, grid_.origin.y + middle + half}, Align::kCentre);
     DrawText(context_, fonts_, std::to_string(line + 1), text,
-             {origin_.x + middle, origin_.y - away + half}, Align::kCentre);
+             {grid_.origin.x + middle, grid_.origin.y - away + half}, Align::kCentre);
   }
 }
 

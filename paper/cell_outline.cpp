@@ -69,11 +69,12 @@ std::vector<Outline> OutlinesOf(CellSet cells) {
   return Tracer(cells).Outlines();
 }
 
-void AddCells(cairo_t* context, CellSet cells, Point origin, double side) {
+void AddCells(cairo_t* context, CellSet cells, const CellGrid& grid) {
   for (const Outline& outline : OutlinesOf(cells)) {
     cairo_new_sub_path(context);
     for (const Corner& corner : outline) {
-      cairo_line_to(context, origin.x + corner.column * side, origin.y + corner.row * side);
+      cairo_line_to(context, grid.origin.x + corner.column * grid.side,
+                    grid.origin.y + corner.row * grid.side);
     }
     cairo_close_path(context);
   }

@@ -5,7 +5,7 @@
 
 #include "core/cage_edges.h"
 #include "core/cell_set.h"
-#include "paper/cairo_handles.h"
+#include "paper/cell_grid.h"
 
 namespace tessel::paper {
 
@@ -16,8 +16,7 @@ using Outline = std::vector<Corner>;
 // holes. Cells that touch at a corner alone have polygons of their own there.
 std::vector<Outline> OutlinesOf(CellSet cells);
 
-// Adds the cells to the path, for a fill or a clip without seams between them. `origin` is the
-// corner of the first cell of the board, `side` a cell's.
-void AddCells(cairo_t* context, CellSet cells, Point origin, double side);
+// Adds the cells to the path, for a fill or a clip without seams between them.
+void AddCells(cairo_t* context, CellSet cells, const CellGrid& grid);
 
 }  // namespace tessel::paper

@@ -20,8 +20,8 @@ constexpr double kGrey = 0.2;
 Point CentreOf(const CellGrid& grid, int cell, int digit) {
   const int row = (digit - 1) / kKeypad - 1;
   const int column = (digit - 1) % kKeypad - 1;
-  return {grid.origin.x + (ColumnOf(cell) + 0.5 + column * kStep) * grid.side,
-          grid.origin.y + (RowOf(cell) + 0.5 + row * kStep) * grid.side};
+  const Point centre = grid.CentreOf(cell);
+  return {centre.x + column * kStep * grid.side, centre.y + row * kStep * grid.side};
 }
 
 // Calls `visit` with the digit and the centre of each mark, line after line of the page as text

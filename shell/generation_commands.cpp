@@ -132,13 +132,13 @@ std::string GenerationCommands::PuzzleFilePath() const {
   return PuzzleFolder(state_.ProgramPath, userFolder_, system_) + kPuzzleFileName;
 }
 
-// A puzzle that cannot be saved can be solved all the same; the foot of the window tells.
 std::string GenerationCommands::FolderForPuzzles() {
   const std::string folder = PuzzleFolder(state_.ProgramPath, userFolder_, system_);
   if (folder != state_.ProgramPath) MakeFolder(folder, system_);
   return folder;
 }
 
+// A puzzle that cannot be saved can be solved all the same; the foot of the window tells.
 void GenerationCommands::SaveTessel() {
   state_.SavedPuzzle = RecordOf(state_);
   const std::string path = FolderForPuzzles() + kPuzzleFileName;

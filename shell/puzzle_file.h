@@ -13,13 +13,6 @@ namespace tessel {
 
 inline constexpr char kPuzzleFileName[] = "Tessel_Sudoku.sds";
 
-// The number of records in a file of `length` bytes, rounded to the nearest: a fragment of up to
-// 121 bytes does not count and is overwritten, one of 122 or more counts and stays.
-constexpr std::int64_t RecordsIn(std::int64_t length) {
-  constexpr std::int64_t recordSize = sizeof(PuzzleRecord);
-  return (length + recordSize / 2) / recordSize;
-}
-
 // The right to decide what becomes of a record. A save takes it before it writes; whoever waits for
 // the save takes it to give up, and can then be sure that the record will never be written.
 class WriteClaim {

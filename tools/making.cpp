@@ -8,6 +8,7 @@
 
 #include "maker/in_order.h"
 #include "tools/failure.h"
+#include "tools/output.h"
 #include "tools/stop_signals.h"
 
 namespace tessel::tools {
@@ -61,17 +62,6 @@ bool HoldsNoRecord(const MakeOptions& options) {
   std::error_code failed;
   const auto size = std::filesystem::file_size(options.output, failed);
   return !failed && size <= HeaderOf(options).size();
-}
-
-// Those that were being written when their run was killed; their names end in six letters.
-void RemoveHalfStates(const std::filesystem::path& state) {
-  const std::string stem = state.filename().string() + ".";
-  std::error_code ignored;
-  for (const auto& file : std::filesystem::directory_iterator(
-           std::filesystem::absolute(state).parent_path(), ignored)) {
-    const std::string name = file.path().filename().string();
-    if (name.starts_with(stem) && name.size() == stem.size() + 6) unlink(file.path().c_str());
-  }
 }
 
 // Which puzzles are repeats is known only from all those before: they are made again, and found in
@@ -215,7 +205,7 @@ void Making::Finish() {
   if (!options_.manifest.empty()) WriteManifest(options_.manifest, ManifestNow(Enough()));
   if (!output_->IsFile() || !Enough()) return;
   unlink(StatePath().c_str());
-  RemoveHalfStates(StatePath());
+  RemoveTemporariesOf(StatePath());  // of runs that were killed while they wrote a state
 }
 
 double Making::SecondsSoFar() const {

@@ -18,6 +18,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr std::string_view kPlaceholders = "XXXXXX";  // for letters that no other file has
 constexpr std::size_t kBufferBytes = std::size_t{1} << 16;
 constexpr mode_t kNewFileMode = 0666;
 
@@ -76,7 +77,7 @@ void Output::Finish() {
 }
 
 void Output::OpenTemporary() {
-  std::string name = path_ + ".XXXXXX";
+  std::string name = path_ + "." + std::string(kPlaceholders);
   file_ = mkostemp(name.data(), O_CLOEXEC);
   if (file_ < 0) throw SystemFailure("cannot write " + path_);
   temporary_ = name;
@@ -98,6 +99,17 @@ void Output::PutInPlace() {
   if (failed != 0) throw SystemFailure("cannot write " + path_);
   temporary_.clear();
   SyncFolderOf(path_);
+}
+
+void RemoveTemporariesOf(const std::string& path) {
+  const std::string stem = fs::path(path).filename().string() + ".";
+  std::error_code ignored;
+  for (const auto& file : fs::directory_iterator(fs::absolute(path).parent_path(), ignored)) {
+    const std::string name = file.path().filename().string();
+    if (name.starts_with(stem) && name.size() == stem.size() + kPlaceholders.size()) {
+      unlink(file.path().c_str());
+    }
+  }
 }
 
 }  // namespace tessel::tools

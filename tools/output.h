@@ -36,4 +36,7 @@ class Output {
   std::string buffer_;
 };
 
+// Removes what was to become the file when a program was killed that wrote it.
+void RemoveTemporariesOf(const std::string& path);
+
 }  // namespace tessel::tools

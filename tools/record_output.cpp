@@ -18,11 +18,10 @@ namespace {
 
 constexpr mode_t kNewFileMode = 0666;
 
-// Where the next record of a puzzle file goes: an odd tail is overwritten up to the middle of a
-// record, and counts as one from there on.
+// Where the next record of a puzzle file goes.
 std::uint64_t EndOfRecords(std::uint64_t length) {
-  constexpr std::uint64_t size = sizeof(PuzzleRecord);
-  return size * ((length + size / 2) / size);
+  return static_cast<std::uint64_t>(RecordsIn(static_cast<std::int64_t>(length))) *
+         sizeof(PuzzleRecord);
 }
 
 bool IsOtherThanFile(const std::string& path) {

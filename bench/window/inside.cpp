@@ -8,6 +8,7 @@
 #include <thread>
 
 #include "bench/wall_time.h"
+#include "shell/qt/work_show.h"
 
 namespace tessel::bench {
 
@@ -81,7 +82,7 @@ double InsideWindow::ShownSeconds(const char* button) {
 }
 
 void InsideWindow::WaitUntilButtonsListen() {
-  std::this_thread::sleep_for(std::chrono::milliseconds(500));
+  std::this_thread::sleep_for(2 * LateStops::kLate);
   QCoreApplication::processEvents();
 }
 

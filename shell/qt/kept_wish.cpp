@@ -7,13 +7,13 @@ namespace {
 constexpr char kLayout[] = "new/layout";
 constexpr char kSymmetric[] = "new/symmetric-givens";
 constexpr char kLevel[] = "new/level";  // 0 for any
-constexpr int kLayoutKinds = 3;
 
 }  // namespace
 
 NewPuzzleWish KeptWish(const Preferences& preferences) {
   NewPuzzleWish wish;
-  wish.layout = static_cast<maker::LayoutKind>(preferences.Choice(kLayout, kLayoutKinds, 0));
+  wish.layout =
+      static_cast<maker::LayoutKind>(preferences.Choice(kLayout, maker::kLayoutKindCount, 0));
   wish.symmetricGivens = preferences.Flag(kSymmetric, false);
   const int level = preferences.Choice(kLevel, grade::kLevelCount + 1, 0);
   if (level > 0) wish.level = static_cast<grade::Level>(level);

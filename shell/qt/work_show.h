@@ -35,6 +35,8 @@ class WorkShow {
 // A press that was meant for "Stop" may come when the work is done and the button reads otherwise.
 class LateStops {
  public:
+  static constexpr std::chrono::milliseconds kLate{400};
+
   explicit LateStops(FrameClock& clock) : clock_(clock) {}
 
   // The button read "Stop" until now.
@@ -45,8 +47,6 @@ class LateStops {
   }
 
  private:
-  static constexpr std::chrono::milliseconds kLate{400};
-
   struct Last {
     Button button;
     FrameClock::Time when;

@@ -2,6 +2,7 @@
 // continues.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <fstream>
 
 #include "core/cell.h"

@@ -11,9 +11,6 @@
 namespace tessel {
 namespace {
 
-constexpr char kQuitSolving[] = "Do you really want to quit solving ?";
-constexpr char kQuitProgram[] = "Do you really want to quit this program?";
-
 // What a player can do, whatever with.
 class Hand {
  public:
@@ -196,10 +193,10 @@ void WholeGame::GoOnWithoutUpdates() {
 
 void WholeGame::QuitAndComeBack() {
   hand_->Press("CommandQuit");
-  EXPECT_TRUE(user_->Answers("Tessel Sudoku - Solver", kQuitSolving, false, hand_->Kind()));
+  EXPECT_TRUE(user_->Answers(kSolver, kQuitSolving, false, hand_->Kind()));
   EXPECT_TRUE(SeesGame());
   hand_->Press("CommandQuit");
-  EXPECT_TRUE(user_->Answers("Tessel Sudoku - Solver", kQuitSolving, true, hand_->Kind()));
+  EXPECT_TRUE(user_->Answers(kSolver, kQuitSolving, true, hand_->Kind()));
   redCaptions_.reset();
   EXPECT_TRUE(user_->SeesSolveButtons(false));
   EXPECT_TRUE(user_->SeesBoard(ExpectedBoard::Concealed(game_->Puzzle())));

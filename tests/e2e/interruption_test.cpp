@@ -12,8 +12,6 @@
 namespace tessel {
 namespace {
 
-constexpr char kQuitProgram[] = "Do you really want to quit this program?";
-
 class InTheMiddleOfAFill : public testing::Test {
  protected:
   InTheMiddleOfAFill() {

@@ -66,8 +66,4 @@ inline std::string SizeName(const testing::TestParamInfo<QSize>& size) {
 
 PuzzleRecord ExampleRecord();
 
-inline constexpr char kSolver[] = "Tessel Sudoku - Solver";
-inline constexpr char kQuitSolving[] = "Do you really want to quit solving ?";
-inline constexpr char kQuitProgram[] = "Do you really want to quit this program?";
-
 }  // namespace tessel

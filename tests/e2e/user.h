@@ -24,6 +24,11 @@ inline constexpr Generation kSaw{"CommandSaw", "Sawed"};
 inline constexpr Generation kFill{"CommandGo", "Filled"};
 inline constexpr Generation kConceal{"CommandConceal", "Concealed"};
 
+// The title of a game's questions, and what is asked.
+inline constexpr char kSolver[] = "Tessel Sudoku - Solver";
+inline constexpr char kQuitSolving[] = "Do you really want to quit solving ?";
+inline constexpr char kQuitProgram[] = "Do you really want to quit this program?";
+
 class User {
  public:
   // Starts the program that lies in `folder`.

@@ -21,6 +21,8 @@ class ViewMenuByHand : public MenuByHand {
  protected:
   // The example's game at its start, looked at in these colours, pointing at a given.
   testing::AssertionResult SeesGiven(bool ringsSameDigits, const CageColours& colours);
+  // The entry makes the game look so, and chosen again, as it did before.
+  void ComesAndGoes(Entry entry, bool ringsSameDigits, const CageColours& colours);
   // The preferences come to hold this line.
   bool Keeps(const std::string& line) {
     return Eventually(
@@ -42,26 +44,23 @@ testing::AssertionResult ViewMenuByHand::SeesGiven(bool ringsSameDigits,
       colours);
 }
 
-TEST_P(ViewMenuByHand, SameDigitsAreRinged) {
+void ViewMenuByHand::ComesAndGoes(Entry entry, bool ringsSameDigits, const CageColours& colours) {
   Starts();
   PlaysExample();
-  for (const Way& way : WaysTo(Entry::kSameDigits)) {
+  for (const Way& way : WaysTo(entry)) {
     way.act();
-    EXPECT_TRUE(SeesGiven(true, kCageColours)) << way.name;
+    EXPECT_TRUE(SeesGiven(ringsSameDigits, colours)) << way.name;
     way.act();
     EXPECT_TRUE(SeesGiven(false, kCageColours)) << way.name;
   }
 }
 
+TEST_P(ViewMenuByHand, SameDigitsAreRinged) {
+  ComesAndGoes(Entry::kSameDigits, true, kCageColours);
+}
+
 TEST_P(ViewMenuByHand, SofterColoursComeAndGo) {
-  Starts();
-  PlaysExample();
-  for (const Way& way : WaysTo(Entry::kSofterColours)) {
-    way.act();
-    EXPECT_TRUE(SeesGiven(false, kSofterCages)) << way.name;
-    way.act();
-    EXPECT_TRUE(SeesGiven(false, kCageColours)) << way.name;
-  }
+  ComesAndGoes(Entry::kSofterColours, false, kSofterCages);
 }
 
 void ViewMenuByHand::RingsADigitOfTheBar() {

@@ -5,12 +5,12 @@
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QTimer>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 
 #include "core/random_source.h"
 #include "shell/qt/tessel_window.h"
+#include "shell/qt/work_show.h"
 #include "tests/fakes/fake_clock.h"
 #include "tests/fakes/fake_sound_player.h"
 #include "tests/fakes/temporary_folder.h"
@@ -129,7 +129,7 @@ class Photographer {
   // A button that has just read "Stop" is deaf for a while.
   void WaitUntilButtonsListen() {
     QEventLoop loop;
-    QTimer::singleShot(std::chrono::milliseconds(500), &loop, &QEventLoop::quit);
+    QTimer::singleShot(2 * LateStops::kLate, &loop, &QEventLoop::quit);
     loop.exec();
   }
 
