@@ -1,10 +1,8 @@
 #include "explain/page.h"
 
-#include <array>
-
 #include "core/markup.h"
-#include "core/text_replacement.h"
 #include "explain/page_parts.h"
+#include "explain/page_pictures.h"
 #include "paper/picture_file.h"
 
 namespace tessel::explain {
@@ -13,34 +11,6 @@ namespace {
 
 using paper::BoardPicture;
 using paper::Panel;
-
-// With two decimals, a hundredth of a point: half as many bytes, and nobody sees it.
-std::string WithShortNumbers(std::string_view svg) {
-  std::string shortened;
-  int decimals = -1;  // behind a point; -1 where none stands before
-  for (const char character : svg) {
-    const bool digit = character >= '0' && character <= '9';
-    if (character == '.') {
-      decimals = 0;
-    } else if (!digit) {
-      decimals = -1;
-    } else if (decimals >= 0 && ++decimals > 2) {
-      continue;
-    }
-    shortened += character;
-  }
-  return shortened;
-}
-
-// Within a link, and within an attribute in double quotes.
-constexpr std::array kInLink{Replacement{'"', "'"}, Replacement{'#', "%23"},
-                             Replacement{'%', "%25"}, Replacement{'&', "%26"},
-                             Replacement{'\n', " "}};
-
-// A link rather than an element, because the names of glyphs repeat from picture to picture.
-std::string DataLink(std::string_view svg) {
-  return "data:image/svg+xml," + Replaced(WithShortNumbers(svg), kInLink);
-}
 
 class Page {
  public:
@@ -59,7 +29,7 @@ class Page {
     html_ =
         "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
         "<meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; "
-        "img-src data:; style-src 'unsafe-inline'; script-src 'unsafe-inline'\">\n"
+        "style-src 'unsafe-inline'; script-src 'unsafe-inline'\">\n"
         "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n<title>" +
         EscapedForMarkup(title) + "</title>\n<style>" + std::string(kStyle) +
         "</style>\n</head>\n<body>\n<nav><button type=\"button\">Back</button>"
@@ -67,8 +37,8 @@ class Page {
         "<span class=\"keys\">\u2190 \u2192 or space: step by step</span></nav>\n<main>\n";
   }
   void Close() {
-    html_ += "</main>\n<footer>" + std::string(kLegend) + "</footer>\n<script>" +
-             std::string(kScript) + "</script>\n</body>\n</html>\n";
+    html_ += "</main>\n" + pictures_.Outlines() + "<footer>" + std::string(kLegend) +
+             "</footer>\n<script>" + std::string(kScript) + "</script>\n</body>\n</html>\n";
   }
 
   void Add(const Panel& panel) {
@@ -98,10 +68,11 @@ class Page {
           return true;
         });
     if (!written) fault_ = written.error();
-    html_ += "<img alt=\"" + EscapedForMarkup(description) + "\" src=\"" + DataLink(svg) + "\">";
+    html_ += pictures_.Element(svg, description);
   }
 
   std::string html_;
+  PagePictures pictures_;
   std::string fault_;
 };
 

@@ -21,7 +21,8 @@ main { max-width: 68rem; margin: 0 auto; padding: 1rem 1.2rem; }
   gap: 0 2rem; margin: 0 0 2.5rem; }
 .now { grid-row: 1 / 3; }
 figure { margin: 0; }
-img { display: block; width: 100%; height: auto; }
+.outlines { position: absolute; width: 0; height: 0; }
+figure svg { display: block; width: 100%; height: auto; }
 h2 { margin: 0 0 .5rem; font-size: 1.5rem; line-height: 1.2; }
 p { margin: 0 0 .7rem; }
 .says { font-weight: 600; }
@@ -31,7 +32,7 @@ footer { max-width: 68rem; margin: 0 auto; padding: .6rem 1.2rem 1.5rem; color: 
   font-size: .85em; border-top: 1px solid #ccc; }
 .stepping .step { display: none; }
 .stepping .step.shown { display: grid; }
-.stepping .now img { max-height: calc(100vh - 8rem); width: auto; max-width: 100%; }
+.stepping .now svg { max-height: calc(100vh - 8rem); width: auto; max-width: 100%; }
 body:not(.stepping) nav { display: none; }
 @media (max-width: 44rem) {
   .step, .stepping .step.shown { display: block; }
@@ -44,7 +45,7 @@ body:not(.stepping) nav { display: none; }
   main { max-width: none; padding: 0; }
   .step, .stepping .step { display: grid; break-inside: avoid; margin: 0 0 6mm;
     grid-template-columns: 73mm 1fr; }
-  .stepping .now img { max-height: none; width: 100%; }
+  .stepping .now svg { max-height: none; width: 100%; }
   .after { max-width: 38mm; }
   h2 { font-size: 13pt; }
   footer { padding: 3mm 0 0; }

@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <set>
 
 #include "explain/story.h"
 #include "tests/fakes/temporary_folder.h"
@@ -28,9 +29,29 @@ TEST(Page, RefersToNothingOutside) {
     EXPECT_EQ(page.substr(at, 13), "//www.w3.org/") << page.substr(at, 80);
   }
   for (std::size_t at = 0; (at = page.find("url(", at)) != std::string::npos; ++at) {
-    EXPECT_EQ(page.substr(at, 7), "url(%23") << page.substr(at, 80);
+    EXPECT_EQ(page.substr(at, 5), "url(#") << page.substr(at, 80);
   }
   EXPECT_THAT(page, HasSubstr("default-src 'none'"));
+}
+
+// The names behind each `before`, as often as they stand there.
+std::multiset<std::string> NamesBehind(const std::string& before, const std::string& page) {
+  std::multiset<std::string> names;
+  for (std::size_t at = 0; (at = page.find(before, at)) != std::string::npos;) {
+    at += before.size();
+    names.insert(page.substr(at, page.find_first_of("\")", at) - at));
+  }
+  return names;
+}
+
+TEST(Page, EveryNameOfItsPicturesIsGivenOnce) {
+  const std::string page = Page("A puzzle");
+  const auto given = NamesBehind(" id=\"", page);
+  EXPECT_EQ(std::set(given.begin(), given.end()).size(), given.size());
+  auto asked = NamesBehind("href=\"#", page);
+  asked.merge(NamesBehind("url(#", page));
+  EXPECT_GT(asked.size(), 1000U);
+  for (const std::string& name : asked) EXPECT_TRUE(given.contains(name)) << name;
 }
 
 TEST(Page, HasASectionForEachPanel) {
