@@ -25,20 +25,30 @@ std::string Beginning(std::string_view line) {
   return "'" + shown + (line.size() > most ? "...'" : "'");
 }
 
-// How files begin that are taken for puzzles by mistake.
+// How files begin that are taken for puzzles by mistake. Told once, instead of for every line.
 struct Signature {
   std::string_view bytes;
   const char* name;
+  const char* expected = "puzzles, as text in UTF-8 or as .sds";
 };
-constexpr std::array kForeign{Signature{"\xFF\xFE", "UTF-16"}, Signature{"\xFE\xFF", "UTF-16"},
-                              Signature{"\x1F\x8B", "gzip"}, Signature{"PK\x03\x04", "a zip file"},
-                              Signature{"%PDF-", "PDF"}};
+constexpr char kThoseThatAreRead[] = "puzzles in one of the formats that are read";
+constexpr std::array kForeign{
+    Signature{"\xFF\xFE", "UTF-16"},
+    Signature{"\xFE\xFF", "UTF-16"},
+    Signature{"\x1F\x8B", "gzip"},
+    Signature{"PK\x03\x04", "a zip file"},
+    Signature{"%PDF-", "PDF"},
+    Signature{"index,", "CSV, which is only written", kThoseThatAreRead},
+    Signature{"source,question,", "CSV, which is only written", kThoseThatAreRead},
+    Signature{"{\"index\":", "JSON Lines, which are only written", kThoseThatAreRead},
+    Signature{".---", "a drawing, which is only written", kThoseThatAreRead},
+    Signature{"<!DOCTYPE ksudoku>", "a saved game, which is only written", kThoseThatAreRead}};
 
 std::optional<Fault> ForeignFault(std::string_view start) {
   const auto begins = [&](const Signature& one) { return start.starts_with(one.bytes); };
   const auto* const found = std::ranges::find_if(kForeign, begins);
   if (found == kForeign.end()) return std::nullopt;
-  return Fault{0, "", "puzzles, as text in UTF-8 or as .sds", found->name};
+  return Fault{0, "", found->expected, found->name};
 }
 
 const Format* FormatLike(std::string_view line) {

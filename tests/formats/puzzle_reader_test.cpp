@@ -1,4 +1,4 @@
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include "tests/formats/example.h"
 #include "tests/formats/reading.h"
@@ -6,6 +6,8 @@
 namespace tessel::formats {
 namespace {
 
+using testing::EndsWith;
+using testing::StartsWith;
 using Told = std::vector<std::string>;
 
 TEST(PuzzleReader, TellsFormatsApartLineByLine) {
@@ -47,6 +49,17 @@ TEST(PuzzleReader, NamesFilesThatAreOfNoFormatOnce) {
   EXPECT_EQ(Read("\xFF\xFE\x31\x00\n\x00"s + ExampleIn("text")), Told{expected + "UTF-16"});
   EXPECT_EQ(Read("\x1F\x8B\x08\x00\n"s + ExampleIn("text")), Told{expected + "gzip"});
   EXPECT_EQ(Read("%PDF-1.5\n" + ExampleIn("text")), Told{expected + "PDF"});
+}
+
+TEST(PuzzleReader, NamesFormatsThatAreOnlyWrittenOnce) {
+  for (const Format& format : AllFormats()) {
+    if (format.IsRead()) continue;
+    const std::string written = std::string(format.header) + *format.write(Example());
+    const auto told = Read(written + "\n" + ExampleIn("text"));
+    ASSERT_EQ(told.size(), 1U) << format.name;
+    EXPECT_THAT(told[0], StartsWith("f:1:1: expected puzzles in one of the formats that are read"));
+    EXPECT_THAT(told[0], EndsWith("only written"));
+  }
 }
 
 TEST(PuzzleReader, GoesOnAfterABadRecord) {
