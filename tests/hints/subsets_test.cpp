@@ -174,6 +174,7 @@ TEST_F(HiddenSubset, TripleNeedsThreeCells) {
   Mark({CellAt(4, 0)}, {2, 3});
   Mark({CellAt(8, 0)}, {1, 3});
   Mark({CellAt(2, 0), CellAt(3, 0)}, {7, 8, 9});
+  EXPECT_FALSE(Hidden(4));
   EXPECT_TRUE(Hidden(3));
   EXPECT_EQ(Result(), (HintFields{.kind = 12, .unit2 = 0}));
 }
