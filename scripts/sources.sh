@@ -14,8 +14,7 @@ test_files() {
   find tests bench fuzz -name '*.cpp' 2>/dev/null | sort
 }
 
-# naming_rules: the options of .clang-tidy's check of names, which the given names are excepted from,
-# and the accessors form() and state().
+# naming_rules: the options of .clang-tidy's check of names, which the given names are excepted from.
 naming_rules() {
   local names kind
   names="^($(grep -vE '^#|^$' docs/given-names.txt | paste -sd '|'))\$"
@@ -23,5 +22,5 @@ naming_rules() {
   for kind in Class Enum EnumConstant Function Method Parameter PrivateMember PublicMember \
     LocalVariable; do
     echo "  - {key: readability-identifier-naming.${kind}IgnoredRegexp, value: '$names'}"
-  done | sed "/MethodIgnored/s/)\\$'/|form|state&/"
+  done
 }

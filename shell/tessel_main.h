@@ -1,6 +1,6 @@
-// The main window's logic, as its gate: front ends deliver every event here and show what `form()`
-// holds. Events that come at a bad moment go no further; GenerationCommands, SolvingMode and
-// HintButton do what the others ask.
+// The main window's logic, as its gate: front ends deliver every event here and show what
+// `Display()` holds. Events that come at a bad moment go no further; GenerationCommands,
+// SolvingMode and HintButton do what the others ask.
 #pragma once
 
 #include <optional>
@@ -69,8 +69,8 @@ class Tessel_Main {
   // Whether neither a command runs nor a question is open.
   bool IsIdle() const { return !asking_ && !form_.Running(); }
 
-  const Form& form() const { return form_; }
-  const GameState& state() const { return state_; }
+  const Form& Display() const { return form_; }
+  const GameState& State() const { return state_; }
 
  private:
   friend class StateProbe;  // of the tests

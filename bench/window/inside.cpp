@@ -63,7 +63,7 @@ double InsideWindow::SecondsUntilPainted(int cell, int digit, Qt::MouseButton bu
 Distribution InsideWindow::ClicksToPainted(int clicks) {
   MakePuzzle();
   Press("CommandSolve");
-  const PuzzleRecord puzzle = logic_.state().SavedPuzzle;
+  const PuzzleRecord puzzle = logic_.State().SavedPuzzle;
   std::vector<double> seconds;
   for (int cell = 0; std::ssize(seconds) < clicks; cell = (cell + 1) % kCellCount) {
     if (puzzle.Board[cell] != 0) continue;
@@ -106,7 +106,7 @@ std::optional<double> InsideWindow::StopSeconds() {
   user.join();
   QCoreApplication::processEvents();
   Find<QCheckBox>("CheckVisualize").click();
-  if (!clicked || logic_.form().Of(Button::CommandConceal).enabled) return std::nullopt;
+  if (!clicked || logic_.Display().Of(Button::CommandConceal).enabled) return std::nullopt;
   return ended - *clicked;
 }
 

@@ -14,7 +14,7 @@ GameActions::GameActions(MenuBar& menu, ControlPanel& panel, QWidget& board, Tes
   const auto resume = [&logic, &board, sync] {
     logic.ContinueLastGame();
     sync();
-    if (logic.form().SolveButtonsVisible()) board.setFocus(Qt::TabFocusReason);
+    if (logic.Display().SolveButtonsVisible()) board.setFocus(Qt::TabFocusReason);
   };
   menu.Connect(Entry::kContinue, resume, [&logic] { return logic.CanContinue(); });
   Join(*panel.Undo(), Entry::kUndo);

@@ -52,7 +52,7 @@ TesselWindow::TesselWindow(const QString& preferencesFile, FrameClock& clock)
   connect(board_, &BoardWidget::CellReleased, this,
           [this](int cell, MouseButton button, double x, double y) {
             const bool acted = logic_->Grid_MouseUp(cell, button, 0, x, y);
-            if (!acted && button == MouseButton::kLeft && IsBoardOpen(logic_->form()))
+            if (!acted && button == MouseButton::kLeft && IsBoardOpen(logic_->Display()))
               board_->Refuse();
             Sync();
           });
@@ -67,7 +67,7 @@ void TesselWindow::SetTabOrder() {
 void TesselWindow::Attach(Tessel_Main& logic) {
   logic_ = &logic;
   BuildMenus();
-  board_->SetSource(logic.form(), logic.state());
+  board_->SetSource(logic.Display(), logic.State());
   changedControls_ = true;
   Sync();
   panel_->Of(Button::CommandSaw)->setFocus(Qt::TabFocusReason);
@@ -78,7 +78,7 @@ void TesselWindow::BuildMenus() {
   menu_->Connect(
       Entry::kExit, [this] { panel_->Of(Button::CommandExit)->click(); },
       [this] { return logic_->AcceptsInput(Button::CommandExit); });
-  ConnectViewMenu(*menu_, {*this, *board_, *panel_, logic_->form(), preferences_, sounds_});
+  ConnectViewMenu(*menu_, {*this, *board_, *panel_, logic_->Display(), preferences_, sounds_});
   gameActions_.emplace(*menu_, *panel_, *board_, *logic_, [this] { Sync(); });
   puzzleActions_.emplace(
       *menu_, *this, *logic_, preferences_, [this] { Sync(); },
@@ -101,17 +101,17 @@ void TesselWindow::PumpEvents() {
 }
 
 bool TesselWindow::Visualises() const {
-  return logic_->form().Running() && logic_->form().Checked(CheckBox::CheckVisualize);
+  return logic_->Display().Running() && logic_->Display().Checked(CheckBox::CheckVisualize);
 }
 
 // Goes on answering, so that Stop ends the show at once.
 void TesselWindow::ShowStep() {
   const auto goesOn = [this] {
     QCoreApplication::processEvents();
-    return Visualises() && !logic_->state().StopRequested;
+    return Visualises() && !logic_->State().StopRequested;
   };
   show_.Step(
-      PaceOf(*logic_->form().Running()), [this] { PumpEventsNow(); }, goesOn);
+      PaceOf(*logic_->Display().Running()), [this] { PumpEventsNow(); }, goesOn);
 }
 
 void TesselWindow::PumpEventsNow() {
@@ -168,24 +168,24 @@ void TesselWindow::Sync() {
   if (std::exchange(changedCaptions_, false)) board_->UpdateCaptions();
   if (std::exchange(changedControls_, false)) SyncControls();
   board_->UpdateTarget();
-  panel_->CountDigits(logic_->form());
+  panel_->CountDigits(logic_->Display());
   menu_->Update();
   ShowFootLine();
 }
 
 void TesselWindow::ShowFootLine() {
-  const Form& form = logic_->form();
+  const Form& form = logic_->Display();
   const bool settled = HasPuzzle(form) && !form.Running();
-  if (settled) grade_->Follow(logic_->state().SavedPuzzle);
-  foot_->Show(StatusLineOf(form, logic_->state(), grade_->Level()));
-  board_->ShowFinished(ShowsFullBoard(form, logic_->state()));
+  if (settled) grade_->Follow(logic_->State().SavedPuzzle);
+  foot_->Show(StatusLineOf(form, logic_->State(), grade_->Level()));
+  board_->ShowFinished(ShowsFullBoard(form, logic_->State()));
 }
 
 // A disabled or hidden control hands the focus on: to the running command's "Stop", or to the
 // board. Qt would give it to a neighbour that the player did not choose, and where a question has
 // just been answered only later, when the window becomes active again.
 void TesselWindow::SyncControls() {
-  const Form& form = logic_->form();
+  const Form& form = logic_->Display();
   QWidget* const focused = focusWidget();
   panel_->Show(form);
   const bool lost = focused != nullptr && !(focused->isVisible() && focused->isEnabled());
@@ -201,10 +201,10 @@ void TesselWindow::Press(Button button) {
   if (lateStops_.Ignores(button)) return;
   QPushButton* const pressed = panel_->Of(button);
   const bool hadFocus = pressed->hasFocus();
-  const bool starts = TraitsOf(button).isLongWork && !logic_->form().Running();
+  const bool starts = TraitsOf(button).isLongWork && !logic_->Display().Running();
   if (starts) pump_.Done();  // the press itself was delivered just now
   if (starts) show_.Begin();
-  const bool wasSolving = logic_->form().SolveButtonsVisible();
+  const bool wasSolving = logic_->Display().SolveButtonsVisible();
   logic_->Click(button);
   if (starts && CanBeStopped(button)) lateStops_.ReadStop(button);
   changedControls_ = true;
@@ -212,7 +212,7 @@ void TesselWindow::Press(Button button) {
   if (hadFocus && board_->hasFocus() && pressed->isEnabled() && pressed->isVisible()) {
     pressed->setFocus(Qt::TabFocusReason);
   }
-  if (!wasSolving && logic_->form().SolveButtonsVisible()) board_->setFocus(Qt::TabFocusReason);
+  if (!wasSolving && logic_->Display().SolveButtonsVisible()) board_->setFocus(Qt::TabFocusReason);
 }
 
 void TesselWindow::closeEvent(QCloseEvent* event) {

@@ -31,8 +31,8 @@ class ExpectedBoard {
   ExpectedBoard(const ExpectedBoard&) = delete;
   ExpectedBoard& operator=(const ExpectedBoard&) = delete;
 
-  const Form& form() const { return form_; }
-  const GameState& state() const { return state_; }
+  const Form& Display() const { return form_; }
+  const GameState& State() const { return state_; }
 
  private:
   // What stands in a cell, 0 for nothing; whether a mark is seen.

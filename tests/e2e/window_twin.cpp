@@ -88,10 +88,10 @@ QImage WindowTwin::Board(const ExpectedBoard& board, const BoardHighlights& high
   image.fill(window_.palette().color(QPalette::Window));
   QPainter painter(&image);
   const BoardGeometry geometry = BoardOf().Geometry();
-  BoardPainter painted(board.form(), board.state(), geometry, BoardOf().font());
+  BoardPainter painted(board.Display(), board.State(), geometry, BoardOf().font());
   painted.SetCageColours(colours);
   BoardHighlights shown = highlights;
-  if (IsFullBoardOfAGame(board.form())) {
+  if (IsFullBoardOfAGame(board.Display())) {
     shown.frame = BoardOf().palette().color(QPalette::Highlight);
   }
   painted.Paint(painter, image.rect(), shown);

@@ -26,12 +26,12 @@ struct TestProgram {
     main.Form_Load();
   }
 
-  const Form& form() const { return main.form(); }
-  const GameState& state() const { return main.state(); }
+  const Form& Display() const { return main.Display(); }
+  const GameState& State() const { return main.State(); }
   GameState& Probe() { return StateProbe::Of(main); }
 
   void Tick(CheckBox box, bool checked = true) {
-    if (form().Checked(box) != checked) main.Toggle(box);
+    if (Display().Checked(box) != checked) main.Toggle(box);
   }
   // Clicks the centre of a digit's mark.
   void ClickMark(int cell, int digit, MouseButton button) {

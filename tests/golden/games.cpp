@@ -17,7 +17,7 @@ void MakePuzzle(Storyteller& teller) {
 
 int ShownMarks(Storyteller& teller, int cell) {
   int count = 0;
-  for (int digit = 1; digit <= kSide; ++digit) count += teller.form().Mark(cell, digit).visible;
+  for (int digit = 1; digit <= kSide; ++digit) count += teller.Display().Mark(cell, digit).visible;
   return count;
 }
 
@@ -25,7 +25,7 @@ int ShownMarks(Storyteller& teller, int cell) {
 int EasiestCell(Storyteller& teller) {
   int easiest = -1;
   for (int cell = 0; cell < kCellCount; ++cell) {
-    if (teller.form().Cell(cell).text != 0) continue;
+    if (teller.Display().Cell(cell).text != 0) continue;
     if (easiest == -1 || ShownMarks(teller, cell) < ShownMarks(teller, easiest)) easiest = cell;
   }
   return easiest;
@@ -50,7 +50,7 @@ void PlayToTheEnd(Storyteller& teller) {
 
 // The cell that the hint's last word names.
 std::optional<int> CellInHint(Storyteller& teller) {
-  const std::string& text = teller.form().TextHint();
+  const std::string& text = teller.Display().TextHint();
   if (text.size() < 8 || text.compare(text.size() - 8, 6, " cell ") != 0) return std::nullopt;
   for (int cell = 0; cell < kCellCount; ++cell) {
     if (text.ends_with(NameOfCell(cell))) return cell;
@@ -60,7 +60,7 @@ std::optional<int> CellInHint(Storyteller& teller) {
 
 // The first number in the hint.
 int DigitInHint(Storyteller& teller) {
-  const std::string& text = teller.form().TextHint();
+  const std::string& text = teller.Display().TextHint();
   return std::stoi(text.substr(text.find_first_of("0123456789")));
 }
 
@@ -89,7 +89,7 @@ void MakeMistakes(Storyteller& teller, int cell) {
   teller.Right(first, 1);
   teller.Say("A wrong digit, told by the hint and taken out with the middle button.");
   int wrong = 1;
-  while (!teller.form().Mark(cell, wrong).visible || wrong == teller.Solution(cell)) ++wrong;
+  while (!teller.Display().Mark(cell, wrong).visible || wrong == teller.Solution(cell)) ++wrong;
   teller.Left(cell, wrong);
   PlaceRight(teller, cell);
   teller.Click(Button::CommandHint);

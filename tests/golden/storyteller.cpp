@@ -4,7 +4,7 @@
 
 namespace tessel {
 
-Storyteller::Storyteller(std::uint64_t firstSeed) : program_(firstSeed), seen_(program_.form()) {
+Storyteller::Storyteller(std::uint64_t firstSeed) : program_(firstSeed), seen_(program_.Display()) {
   Write("The program starts.");
   indent_ = "  ";
   Write("The caption reads \"" + seen_.caption + "\".");
@@ -18,11 +18,11 @@ void Storyteller::Say(const std::string& sentence) {
 }
 
 void Storyteller::Click(Button button) {
-  Act("The player clicks " + form().Of(button).caption, [&] { program_.main.Click(button); });
+  Act("The player clicks " + Display().Of(button).caption, [&] { program_.main.Click(button); });
 }
 
 void Storyteller::Tick(CheckBox box) {
-  Act(std::string(form().Checked(box) ? "The player unticks \"" : "The player ticks \"") +
+  Act(std::string(Display().Checked(box) ? "The player unticks \"" : "The player ticks \"") +
           CaptionOf(box) + '"',
       [&] { program_.main.Toggle(box); });
 }
@@ -46,11 +46,11 @@ void Storyteller::InPump(long pump, std::function<void()> act) {
 
 void Storyteller::DrawBoard() {
   Write("The board:");
-  for (const std::string& line : BoardLines(Sight(form()))) Write("  " + line);
+  for (const std::string& line : BoardLines(Sight(Display()))) Write("  " + line);
 }
 
 bool Storyteller::Playing() const {
-  return form().SolveButtonsVisible() && form().Of(Button::CommandSolution).enabled;
+  return Display().SolveButtonsVisible() && Display().Of(Button::CommandSolution).enabled;
 }
 
 void Storyteller::ClickMark(int cell, int digit, MouseButton button, const std::string& which) {
@@ -83,7 +83,7 @@ void Storyteller::TellWhatFollowed() {
     Write(program_.view.answer ? "The player answers Yes." : "The player answers No.");
   }
   for (; toldBeeps_ < program_.view.beeps; ++toldBeeps_) Write("The system beeps.");
-  Sight now(form());
+  Sight now(Display());
   for (const std::string& line : ChangesBetween(seen_, now)) Write(line);
   seen_ = std::move(now);
   for (; toldEnds_ < program_.view.ends; ++toldEnds_) Write("The program ends.");

@@ -29,9 +29,9 @@ class Storyteller {
   void InPump(long pump, std::function<void()> act);
   void DrawBoard();
 
-  const Form& form() const { return program_.form(); }
-  const GameState& state() { return program_.state(); }
-  int Solution(int cell) { return state().PlayBoard.Solution[cell]; }
+  const Form& Display() const { return program_.Display(); }
+  const GameState& State() { return program_.State(); }
+  int Solution(int cell) { return State().PlayBoard.Solution[cell]; }
   bool Playing() const;
 
   const std::string& Story() const { return story_; }

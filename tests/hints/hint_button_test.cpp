@@ -14,19 +14,19 @@ struct HintClick : testing::Test, SolvingProgram {
   HintClick() { Play(EmptyPuzzle()); }
 
   void PutDigit(int cell, int digit) {
-    state().PlayBoard.Board[cell] = static_cast<std::uint8_t>(digit);
-    state().Candidates[cell] = 0;
+    State().PlayBoard.Board[cell] = static_cast<std::uint8_t>(digit);
+    State().Candidates[cell] = 0;
   }
-  int SolutionOf(int cell) { return state().PlayBoard.Solution[cell]; }
+  int SolutionOf(int cell) { return State().PlayBoard.Solution[cell]; }
   void PutRightDigit(int cell) {
     PutDigit(cell, SolutionOf(cell));
-    RemoveFromHouses(state(), cell, SolutionOf(cell), state().Candidates);
+    RemoveFromHouses(State(), cell, SolutionOf(cell), State().Candidates);
   }
   void AddMark(int cell, int digit) {
-    state().Candidates[cell] = static_cast<Mask>(state().Candidates[cell] | BitOf(digit));
+    State().Candidates[cell] = static_cast<Mask>(State().Candidates[cell] | BitOf(digit));
   }
   void RemoveMark(int cell, int digit) {
-    state().Candidates[cell] = Without(state().Candidates[cell], BitOf(digit));
+    State().Candidates[cell] = Without(State().Candidates[cell], BitOf(digit));
   }
 };
 
@@ -45,7 +45,7 @@ TEST_F(HintClick, NinthRowIsNamedJ) {
 }
 
 TEST_F(HintClick, LostCandidateIsReportedThoughANakedSingleExists) {
-  state().Candidates[0] = BitOf(SolutionOf(0));
+  State().Candidates[0] = BitOf(SolutionOf(0));
   RemoveMark(62, SolutionOf(62));
   RemoveMark(33, SolutionOf(33));
   EXPECT_EQ(Hint(),
@@ -56,7 +56,7 @@ TEST_F(HintClick, LostCandidateIsReportedThoughANakedSingleExists) {
 }
 
 TEST_F(HintClick, EmptyCellWithoutAnyMarkHasLostItsCandidate) {
-  state().Candidates[80] = 0;
+  State().Candidates[80] = 0;
   EXPECT_EQ(Hint(),
             "The correct number is no longer shown as a possibility at cell J9 - Click that cell "
             "with the middle button");
@@ -89,14 +89,14 @@ TEST_F(HintClick, StaleCandidateOfTheLowestPlacedCellIsReported) {
 
 TEST_F(HintClick, ChecksComeInTheirOrderAndBeforeTheTechniques) {
   PutRightDigit(CellAt(4, 4));
-  state().Candidates[CellAt(8, 8)] = BitOf(SolutionOf(CellAt(8, 8)));
+  State().Candidates[CellAt(8, 8)] = BitOf(SolutionOf(CellAt(8, 8)));
   AddMark(CellAt(4, 0), 9);
   RemoveMark(CellAt(7, 7), SolutionOf(CellAt(7, 7)));
   PutDigit(CellAt(6, 6), 1);
 
   EXPECT_TRUE(Hint().starts_with("Incorrect number 1 at cell G7"));
   PutDigit(CellAt(6, 6), 0);
-  state().Candidates[CellAt(6, 6)] = kAllCandidates;
+  State().Candidates[CellAt(6, 6)] = kAllCandidates;
   EXPECT_TRUE(Hint().starts_with("The correct number is no longer shown"));
   AddMark(CellAt(7, 7), SolutionOf(CellAt(7, 7)));
   EXPECT_TRUE(Hint().starts_with("Since number 9 is located at cell E5"));
@@ -109,7 +109,7 @@ TEST_F(HintClick, NothingFoundIsSaidSilentlyWithEveryCaptionBlack) {
   Hint();
   ASSERT_EQ(Red(), "B 4");
   PutDigit(12, 0);
-  state().Candidates[12] = kAllCandidates;
+  State().Candidates[12] = kAllCandidates;
   EXPECT_EQ(Hint(), kNoMore);
   EXPECT_EQ(Red(), "- -");
   EXPECT_TRUE(sounds.empty());
@@ -117,23 +117,23 @@ TEST_F(HintClick, NothingFoundIsSaidSilentlyWithEveryCaptionBlack) {
 }
 
 TEST_F(HintClick, EveryClickResetsTheCaptionsFirst) {
-  state().Candidates[0] = BitOf(1);
+  State().Candidates[0] = BitOf(1);
   EXPECT_EQ(Hint(), "Naked single at cell A1");
   EXPECT_EQ(Red(), "A 1");
-  state().Candidates[0] = kAllCandidates;
-  state().Candidates[40] = BitOf(9);
+  State().Candidates[0] = kAllCandidates;
+  State().Candidates[40] = BitOf(9);
   EXPECT_EQ(Hint(), "Naked single at cell E5");
   EXPECT_EQ(Red(), "E 5");
 }
 
 TEST_F(HintClick, PendingAssignmentComesBeforeEveryCheck) {
   PutDigit(12, 5);
-  state().HintCell = 80;
-  state().HintDigit = 7;
-  state().AssignmentPending = Bool16::kTrue;
+  State().HintCell = 80;
+  State().HintDigit = 7;
+  State().AssignmentPending = Bool16::kTrue;
   EXPECT_EQ(Hint(), "Candidate 7 can savely be assigned to cell J9");
   EXPECT_EQ(sounds, std::vector<int>{7});
-  EXPECT_EQ(state().AssignmentPending, Bool16::kFalse);
+  EXPECT_EQ(State().AssignmentPending, Bool16::kFalse);
   EXPECT_EQ(ButtonCaption(), "Hint");
   EXPECT_TRUE(Hint().starts_with("Incorrect number 5 at cell B4"));
 }
@@ -141,9 +141,9 @@ TEST_F(HintClick, PendingAssignmentComesBeforeEveryCheck) {
 TEST_F(HintClick, PendingAssignmentLeavesTheOtherCaptionsRed) {
   PutDigit(12, 5);
   Hint();
-  state().HintCell = 80;
-  state().HintDigit = 7;
-  state().AssignmentPending = Bool16::kTrue;
+  State().HintCell = 80;
+  State().HintDigit = 7;
+  State().AssignmentPending = Bool16::kTrue;
   Hint();
   EXPECT_EQ(Red(), "BJ 49");
 }
@@ -165,7 +165,7 @@ TEST_F(HintClick, WithMarksOffLostAndStaleCandidatesAreNoConcern) {
 
 TEST_F(HintClick, WithMarksOffNoNakedSingleIsNamed) {
   Tick(CheckBox::CheckPencilmarks, false);
-  state().Candidates[33] = BitOf(SolutionOf(33));
+  State().Candidates[33] = BitOf(SolutionOf(33));
   EXPECT_EQ(Hint(), "A candidate can savely be assigned to cell D7");
 }
 
@@ -174,7 +174,7 @@ TEST_F(HintClick, NakedQuintIsNeverSaidBecauseTheQuadComesFirst) {
   PuzzleRecord puzzle = EmptyPuzzle();
   puzzle.Solution[4] = 1;  // no solution at all: five cells of row A with the digits 1 to 4
   Play(puzzle);
-  for (int cell = 0; cell < 5; ++cell) state().Candidates[cell] = 15;
+  for (int cell = 0; cell < 5; ++cell) State().Candidates[cell] = 15;
   EXPECT_EQ(Hint(),
             "A naked quad is present in row A and leads to elimination in other cells of that row");
 }
@@ -225,7 +225,7 @@ TEST_F(HintTexts, StaleCandidateCannotLongerBeOne) {
 
 TEST_F(HintTexts, AssignmentsAreSavelyMade) {
   Tick(CheckBox::CheckPencilmarks, false);
-  state().Candidates[0] = BitOf(1);
+  State().Candidates[0] = BitOf(1);
   EXPECT_EQ(Hint(), "A candidate can savely be assigned to cell A1");
   EXPECT_EQ(Hint(), "Candidate 1 can savely be assigned to cell A1");
 }

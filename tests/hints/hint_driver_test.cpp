@@ -24,12 +24,12 @@ struct Tally {
 void PlayOne(TestProgram& program, bool asksSpecialPass, Tally& tally) {
   program.MakePuzzle();
   program.main.Click(Button::CommandSolve);
-  ASSERT_TRUE(program.form().SolveButtonsVisible());
+  ASSERT_TRUE(program.Display().SolveButtonsVisible());
   HintPlayer player(program);
   player.asksSpecialPass = asksSpecialPass;
   if (player.Play()) {
     ++tally.solved;
-    ASSERT_EQ(program.state().PlayBoard.Board, program.state().PlayBoard.Solution);
+    ASSERT_EQ(program.State().PlayBoard.Board, program.State().PlayBoard.Solution);
   }
   for (const auto& [hint, count] : player.counts) tally.counts[hint] += count;
   tally.announcements += player.specialAnnouncements;

@@ -84,10 +84,10 @@ std::string NameOf(HintCode kind, const std::string& sentence) {
 
 bool HintPlayer::Play() {
   for (int hints = 0; hints < kMaxHints; ++hints) {
-    if (!program_.form().Of(Button::CommandHint).enabled) return true;
+    if (!program_.Display().Of(Button::CommandHint).enabled) return true;
     if (asksSpecialPass) AskSpecialPass();
     program_.main.Click(Button::CommandHint);
-    const std::string sentence = program_.form().TextHint();
+    const std::string sentence = program_.Display().TextHint();
     if (sentence == kNoMore) return false;
     Follow(sentence);
     if (testing::Test::HasFailure()) return false;

@@ -13,7 +13,7 @@ namespace tessel {
 class HintPlayer {
  public:
   // The program must be in solving mode, with automatic marks.
-  explicit HintPlayer(TestProgram& program) : program_(program), state_(program.state()) {}
+  explicit HintPlayer(TestProgram& program) : program_(program), state_(program.State()) {}
 
   // Follows hints until the board is full (true) or no hint is left (false). Every hint is checked
   // against the solution; a false one fails the test and ends the play.

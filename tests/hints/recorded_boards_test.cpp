@@ -34,10 +34,10 @@ TEST_P(HintOfKind, SentenceCaptionsAndSound) {
     EXPECT_EQ(program.Hint(), board.text);
     EXPECT_EQ(program.Red(), board.red);
     EXPECT_EQ(program.sounds, std::vector<int>{board.sound});
-    EXPECT_EQ(static_cast<int>(program.state().HintKind), GetParam());
+    EXPECT_EQ(static_cast<int>(program.State().HintKind), GetParam());
     EXPECT_EQ(program.ButtonCaption(), "Hint");
-    EXPECT_EQ(program.state().Candidates, board.marks) << "a hint only tells";
-    EXPECT_EQ(program.state().PlayBoard, board.puzzle) << "a hint only tells";
+    EXPECT_EQ(program.State().Candidates, board.marks) << "a hint only tells";
+    EXPECT_EQ(program.State().PlayBoard, board.puzzle) << "a hint only tells";
     boardsSeen.insert(board.text + program.Red());
   }
   EXPECT_GE(boardsSeen.size(), 3u);
@@ -102,7 +102,7 @@ TEST(HintLadder, EveryRungComesBeforeTheNext) {
   std::set<std::pair<int, int>> neighboursSeen;
   for (const RecordedBoard& board : ReadRecordedBoards()) {
     program.Play(board);
-    const std::vector<int> rungs = RungsThatFind(program.state());
+    const std::vector<int> rungs = RungsThatFind(program.State());
     ASSERT_FALSE(rungs.empty()) << board.purpose;
     EXPECT_EQ(rungs[0], RungOf(board)) << board.purpose;
     if (rungs.size() > 1) neighboursSeen.insert({rungs[0], rungs[1]});

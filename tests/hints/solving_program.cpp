@@ -14,8 +14,8 @@ SolvingProgram::SolvingProgram() {
 }
 
 void SolvingProgram::Play(const PuzzleRecord& puzzle) {
-  state().SavedPuzzle = puzzle;
-  SetLayout(state(), LayoutOfCages(puzzle.CageMap));
+  State().SavedPuzzle = puzzle;
+  SetLayout(State(), LayoutOfCages(puzzle.CageMap));
   main.Click(Button::CommandRestart);
   player.played.clear();
 }
@@ -29,7 +29,7 @@ std::string SolvingProgram::Hint() {
   player.played.clear();
   main.Click(Button::CommandHint);
   sounds.assign(player.played.begin(), player.played.end());
-  return form().TextHint();
+  return Display().TextHint();
 }
 
 namespace {
@@ -45,8 +45,8 @@ std::string SolvingProgram::Red() const {
   std::string rows;
   std::string columns;
   for (std::size_t line = 0; line < kSide; ++line) {
-    if (IsRed(form().LabelRow(static_cast<int>(line)))) rows += "ABCDEFGHJ"[line];
-    if (IsRed(form().LabelColumn(static_cast<int>(line)))) columns += "123456789"[line];
+    if (IsRed(Display().LabelRow(static_cast<int>(line)))) rows += "ABCDEFGHJ"[line];
+    if (IsRed(Display().LabelColumn(static_cast<int>(line)))) columns += "123456789"[line];
   }
   return (rows.empty() ? "-" : rows) + " " + (columns.empty() ? "-" : columns);
 }

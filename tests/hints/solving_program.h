@@ -13,19 +13,19 @@ struct SolvingProgram : TestProgram {
   SolvingProgram();
 
   // Its tests put boards together by hand.
-  GameState& state() { return Probe(); }
+  GameState& State() { return Probe(); }
 
   // Restarts with another puzzle; the candidates are those that its givens leave.
   void Play(const PuzzleRecord& puzzle);
   void Play(const RecordedBoard& board);
-  void SetMarks(const MaskBoard& marks) { state().Candidates = marks; }
+  void SetMarks(const MaskBoard& marks) { State().Candidates = marks; }
 
   // Presses the button and says what it wrote. `sounds` holds the sounds of this press alone.
   std::string Hint();
 
   // The red captions, "AC 5" or "- 5"; every other caption must be black.
   std::string Red() const;
-  const std::string& ButtonCaption() const { return form().Of(Button::CommandHint).caption; }
+  const std::string& ButtonCaption() const { return Display().Of(Button::CommandHint).caption; }
 
   std::vector<int> sounds;
 };

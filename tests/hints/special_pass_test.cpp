@@ -159,38 +159,38 @@ struct SpecialClick : testing::Test, SolvingProgram {
 
 TEST_F(SpecialClick, AnnouncesTheCellAndRevealsTheDigitOnTheNextClick) {
   for (int column = 0; column < 8; ++column) {
-    state().Candidates[CellAt(8, column)] = MaskOf({1, 2, 3, 4, 5, 6, 7, 9});
+    State().Candidates[CellAt(8, column)] = MaskOf({1, 2, 3, 4, 5, 6, 7, 9});
   }
   EXPECT_EQ(Hint(), "A candidate can savely be assigned to cell J9");
   EXPECT_EQ(sounds, std::vector<int>{7});
   EXPECT_EQ(Red(), "J 9");
   EXPECT_EQ(ButtonCaption(), "Show Me");
-  EXPECT_EQ(state().AssignmentPending, Bool16::kTrue);
+  EXPECT_EQ(State().AssignmentPending, Bool16::kTrue);
 
   EXPECT_EQ(Hint(), "Candidate 8 can savely be assigned to cell J9");
   EXPECT_EQ(sounds, std::vector<int>{7});
   EXPECT_EQ(Red(), "J 9");
   EXPECT_EQ(ButtonCaption(), "Hint");
-  EXPECT_EQ(state().AssignmentPending, Bool16::kFalse);
+  EXPECT_EQ(State().AssignmentPending, Bool16::kFalse);
 
   EXPECT_EQ(Hint(), "A candidate can savely be assigned to cell J9") << "a fresh search";
 }
 
 // Deliberate: a cell that holds only 3 is revealed as 2, the rounded square root of its mask.
 TEST_F(SpecialClick, RevealsTheRoundedSquareRoot) {
-  state().Candidates[33] = MaskOf({3});
+  State().Candidates[33] = MaskOf({3});
   EXPECT_EQ(Hint(), "A candidate can savely be assigned to cell D7");
   EXPECT_EQ(Hint(), "Candidate 2 can savely be assigned to cell D7");
-  state().Candidates[33] = MaskOf({9});
+  State().Candidates[33] = MaskOf({9});
   EXPECT_EQ(Hint(), "A candidate can savely be assigned to cell D7");
   EXPECT_EQ(Hint(), "Candidate 16 can savely be assigned to cell D7");
 }
 
 // Deliberate: the reverse of the ladder's order.
 TEST_F(SpecialClick, HiddenSingleComesBeforeNakedSingle) {
-  state().Candidates[0] = MaskOf({1});
+  State().Candidates[0] = MaskOf({1});
   for (int column = 0; column < 8; ++column) {
-    state().Candidates[CellAt(8, column)] = MaskOf({1, 2, 3, 4, 5, 6, 7, 9});
+    State().Candidates[CellAt(8, column)] = MaskOf({1, 2, 3, 4, 5, 6, 7, 9});
   }
   EXPECT_EQ(Hint(), "A candidate can savely be assigned to cell J9");
   EXPECT_EQ(Hint(), "Candidate 8 can savely be assigned to cell J9");
@@ -203,17 +203,17 @@ TEST_F(SpecialClick, NothingToFindIsSaidSilently) {
   EXPECT_TRUE(sounds.empty());
   EXPECT_EQ(Red(), "- -");
   EXPECT_EQ(ButtonCaption(), "Hint");
-  EXPECT_EQ(state().AssignmentPending, Bool16::kFalse);
+  EXPECT_EQ(State().AssignmentPending, Bool16::kFalse);
 }
 
 TEST_F(SpecialClick, EliminatesUntilItMeetsASingle) {
   // Row A: a pair, a cell that the pair leaves with 6 alone; no other single.
-  state().Candidates[0] = MaskOf({1, 2});
-  state().Candidates[4] = MaskOf({1, 2});
-  state().Candidates[8] = MaskOf({1, 2, 6});
+  State().Candidates[0] = MaskOf({1, 2});
+  State().Candidates[4] = MaskOf({1, 2});
+  State().Candidates[8] = MaskOf({1, 2, 6});
   EXPECT_EQ(Hint(), "A candidate can savely be assigned to cell A9");
   EXPECT_EQ(sounds, std::vector<int>{7}) << "the eliminations are silent";
-  EXPECT_EQ(state().SpecialMarks[8], MaskOf({6}));
+  EXPECT_EQ(State().SpecialMarks[8], MaskOf({6}));
   EXPECT_EQ(Hint(), "Candidate 6 can savely be assigned to cell A9");
 }
 
@@ -223,22 +223,22 @@ TEST_F(SpecialClick, PlayersMarksAndBoardAreTheSameBeforeAndAfter) {
   for (const RecordedBoard& board : ReadRecordedBoards()) {
     Play(board);
     announced += Hint().starts_with("A candidate can savely") ? 1 : 0;
-    workedOn += state().SpecialMarks == board.marks ? 0 : 1;
-    EXPECT_EQ(state().Candidates, board.marks) << board.text;
-    EXPECT_EQ(state().PlayBoard, board.puzzle) << board.text;
+    workedOn += State().SpecialMarks == board.marks ? 0 : 1;
+    EXPECT_EQ(State().Candidates, board.marks) << board.text;
+    EXPECT_EQ(State().PlayBoard, board.puzzle) << board.text;
   }
   EXPECT_GT(announced, 10);
   EXPECT_GT(workedOn, 10);
 }
 
 TEST_F(SpecialClick, MarksAreTrustedAsTheyStand) {
-  state().Candidates[0] = MaskOf({6});  // the solution has 1 there
+  State().Candidates[0] = MaskOf({6});  // the solution has 1 there
   EXPECT_EQ(Hint(), "A candidate can savely be assigned to cell A1");
   EXPECT_EQ(Hint(), "Candidate 6 can savely be assigned to cell A1");
 }
 
 TEST_F(SpecialClick, TickingTheBoxOrRestartingEndsTheAnnouncement) {
-  state().Candidates[33] = MaskOf({3});
+  State().Candidates[33] = MaskOf({3});
   Hint();
   Tick(CheckBox::CheckPencilmarks, true);
   EXPECT_EQ(ButtonCaption(), "Hint");
@@ -250,7 +250,7 @@ TEST_F(SpecialClick, TickingTheBoxOrRestartingEndsTheAnnouncement) {
   EXPECT_EQ(ButtonCaption(), "Show Me");
   main.Click(Button::CommandRestart);
   EXPECT_EQ(ButtonCaption(), "Hint");
-  EXPECT_EQ(state().AssignmentPending, Bool16::kFalse);
+  EXPECT_EQ(State().AssignmentPending, Bool16::kFalse);
 }
 
 }  // namespace

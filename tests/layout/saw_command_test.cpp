@@ -19,15 +19,15 @@ constexpr std::array<std::uint64_t, 4> kUnfillable{9, 198, 405, 508};
 TEST(SawCommand, TakesDigitsAndMarkColoursOffTheBoard) {
   TestProgram program(1);
   program.MakePuzzle();
-  EXPECT_NE(program.form().Mark(0, 1).colour, kBlack);
+  EXPECT_NE(program.Display().Mark(0, 1).colour, kBlack);
   program.main.Click(Button::CommandSaw);
   for (int cell = 0; cell < kCellCount; ++cell) {
-    EXPECT_EQ(program.form().Cell(cell).text, 0);
+    EXPECT_EQ(program.Display().Cell(cell).text, 0);
     for (int digit = 1; digit <= 9; ++digit) {
-      ASSERT_EQ(program.form().Mark(cell, digit).colour, kBlack);
+      ASSERT_EQ(program.Display().Mark(cell, digit).colour, kBlack);
     }
   }
-  EXPECT_TRUE(IsPaintedInCageColours(program.state(), program.form()));
+  EXPECT_TRUE(IsPaintedInCageColours(program.State(), program.Display()));
 }
 
 TEST(SawCommand, MakeRegularTakesPrecedenceOverRotationalAndDoesNotBeep) {
@@ -35,21 +35,21 @@ TEST(SawCommand, MakeRegularTakesPrecedenceOverRotationalAndDoesNotBeep) {
   program.Tick(CheckBox::MakeRegular);
   program.Tick(CheckBox::Rotational);
   program.main.Click(Button::CommandSaw);
-  EXPECT_EQ(program.state().CageOfCell, oracle::RegularLayout().cageOfCell);
-  EXPECT_EQ(program.state().CageCells, oracle::RegularLayout().cageCells);
+  EXPECT_EQ(program.State().CageOfCell, oracle::RegularLayout().cageOfCell);
+  EXPECT_EQ(program.State().CageCells, oracle::RegularLayout().cageCells);
   EXPECT_EQ(program.view.beeps, 0);
   program.Tick(CheckBox::MakeRegular, false);
   program.main.Click(Button::CommandSaw);
-  EXPECT_TRUE(IsLayout(program.state()));
-  EXPECT_TRUE(IsRotational(program.state()));
+  EXPECT_TRUE(IsLayout(program.State()));
+  EXPECT_TRUE(IsRotational(program.State()));
   EXPECT_EQ(program.view.beeps, 1);
 }
 
 TEST(SawCommand, ShowsItsTimeInTheCaption) {
   TestProgram program(1);
   program.main.Click(Button::CommandSaw);
-  EXPECT_EQ(program.form().Caption(), "Tessel Sudoku - Sawed in 1.23 ms");
-  EXPECT_EQ(program.state().Stopwatch, nullptr);
+  EXPECT_EQ(program.Display().Caption(), "Tessel Sudoku - Sawed in 1.23 ms");
+  EXPECT_EQ(program.State().Stopwatch, nullptr);
 }
 
 // From some seeds the walk first comes to a layout that has no filling.
@@ -58,14 +58,14 @@ TEST(SawCommand, EveryLayoutCanBeFilled) {
   for (const std::uint64_t seed : kUnfillable) {
     program.clock.nextSeed = seed;
     program.main.Click(Button::CommandSaw);
-    const auto layout = oracle::LayoutOf(program.state().CageOfCell);
+    const auto layout = oracle::LayoutOf(program.State().CageOfCell);
     EXPECT_EQ(oracle::IndependentSolver(layout).HasFilling(1'000'000), true) << seed;
   }
   for (std::uint64_t seed = 1000; seed < 1000 + kSeeds; ++seed) {
     program.clock.nextSeed = seed;
     program.Tick(CheckBox::Rotational, seed % 2 == 0);
     program.main.Click(Button::CommandSaw);
-    const auto layout = oracle::LayoutOf(program.state().CageOfCell);
+    const auto layout = oracle::LayoutOf(program.State().CageOfCell);
     EXPECT_EQ(oracle::IndependentSolver(layout).HasFilling(1'000'000), true) << seed;
   }
 }

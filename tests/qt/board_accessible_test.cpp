@@ -50,7 +50,7 @@ TEST(BoardAccessible, TellsGivensEntriesAndMarks) {
   const int empty = program.FirstEmptyCell();
   QString marks;
   for (int digit = 1; digit <= kSide; ++digit) {
-    if (program.form().Mark(empty, digit).visible) marks += QString(" %1").arg(digit);
+    if (program.Display().Mark(empty, digit).visible) marks += QString(" %1").arg(digit);
   }
   EXPECT_EQ(board->child(empty)->text(QAccessible::Value), "empty with marks" + marks);
   EXPECT_FALSE(board->child(empty)->state().readOnly);
@@ -58,9 +58,9 @@ TEST(BoardAccessible, TellsGivensEntriesAndMarks) {
   program.ClickMark(empty, digit);
   EXPECT_EQ(board->child(empty)->text(QAccessible::Value), QString("entry %1").arg(digit));
   int given = 0;
-  while (program.state().SavedPuzzle.Board[static_cast<std::size_t>(given)] == 0) ++given;
+  while (program.State().SavedPuzzle.Board[static_cast<std::size_t>(given)] == 0) ++given;
   EXPECT_EQ(board->child(given)->text(QAccessible::Value),
-            QString("given %1").arg(program.form().Cell(given).text));
+            QString("given %1").arg(program.Display().Cell(given).text));
   EXPECT_TRUE(board->child(given)->state().readOnly);
 }
 

@@ -78,7 +78,7 @@ TEST(ControlPanel, ShortcutsClick) {
   WindowProgram program;
   program.window.activateWindow();
   QTest::keyClick(&program.window, Qt::Key_O, Qt::AltModifier);
-  EXPECT_TRUE(program.form().Checked(CheckBox::Rotational));
+  EXPECT_TRUE(program.Display().Checked(CheckBox::Rotational));
   EXPECT_TRUE(program.Box("Rotational")->isChecked());
   QTest::keyClick(&program.window, Qt::Key_S, Qt::AltModifier);
   EXPECT_TRUE(program.Push("CommandGo")->isEnabled());
@@ -93,7 +93,7 @@ TEST(ControlPanel, BoxesFollowTheForm) {
   }
   for (const CheckBox box : {CheckBox::Rotational, CheckBox::MakeRegular,
                              CheckBox::ConcealRotational, CheckBox::CheckVisualize}) {
-    EXPECT_TRUE(program.form().Checked(box));
+    EXPECT_TRUE(program.Display().Checked(box));
   }
 }
 
@@ -209,8 +209,8 @@ TEST(ControlPanel, NoticeStandsAtTheFootWithoutAJump) {
   std::filesystem::create_directory(program.folder.PuzzleFile());  // no file can be written there
   program.MakePuzzle();
   QCoreApplication::processEvents();
-  EXPECT_FALSE(program.form().Notice().empty());
-  EXPECT_EQ(notice->text().toStdString(), program.form().Notice());
+  EXPECT_FALSE(program.Display().Notice().empty());
+  EXPECT_EQ(notice->text().toStdString(), program.Display().Notice());
   EXPECT_EQ(program.Board()->geometry(), board);
   EXPECT_TRUE(notice->isVisible());
 }

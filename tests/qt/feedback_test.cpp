@@ -16,7 +16,7 @@ std::string TextOf(WindowProgram& program, const char* label) {
 
 void FillBoard(WindowProgram& program) {
   for (int cell = 0; cell < kCellCount; ++cell) {
-    if (program.form().Cell(cell).text == 0) program.ClickMark(cell, program.SolutionAt(cell));
+    if (program.Display().Cell(cell).text == 0) program.ClickMark(cell, program.SolutionAt(cell));
   }
 }
 
@@ -58,7 +58,7 @@ TEST(FootLine, LongPathLosesItsMiddle) {
   const auto* const notice = program.Find<QLabel>("Notice");
   EXPECT_TRUE(notice->text().startsWith("Saved as"));
   EXPECT_LE(notice->fontMetrics().horizontalAdvance(notice->text()), notice->width());
-  EXPECT_EQ(notice->toolTip().toStdString(), program.form().News());
+  EXPECT_EQ(notice->toolTip().toStdString(), program.Display().News());
 }
 
 TEST(Feedback, AFinishedGameHasAFrame) {
@@ -87,7 +87,7 @@ TEST(Feedback, ARefusedDigitMakesTheFocusRingFlash) {
   const int cell = program.FirstEmptyCell();
   program.Board()->FocusCell(cell);
   int refused = 1;
-  while (program.form().Mark(cell, refused).visible) ++refused;
+  while (program.Display().Mark(cell, refused).visible) ++refused;
   const auto look = [&] { return program.Board()->grab().toImage(); };
   const QImage calm = look();
   program.Key(Qt::Key_0 + refused);
@@ -96,7 +96,7 @@ TEST(Feedback, ARefusedDigitMakesTheFocusRingFlash) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return look() != calm; }, 60'000)) << "the second flash";
   EXPECT_TRUE(QTest::qWaitFor([&] { return look() == calm; }, 60'000));
   program.Key(Qt::Key_0 + refused, Qt::ControlModifier);
-  EXPECT_TRUE(program.form().Mark(cell, refused).visible) << "which is no digit and not refused";
+  EXPECT_TRUE(program.Display().Mark(cell, refused).visible) << "which is no digit and not refused";
 }
 
 TEST(Feedback, NothingFlashesWhereNothingIsPlayed) {
@@ -123,7 +123,7 @@ TEST(Feedback, QuitHandsTheFocusToTheBoard) {
   answer.stop();
   program.window.activateWindow();
   QCoreApplication::processEvents();
-  EXPECT_FALSE(program.form().SolveButtonsVisible());
+  EXPECT_FALSE(program.Display().SolveButtonsVisible());
   EXPECT_EQ(program.window.focusWidget(), program.Board());
 }
 

@@ -22,7 +22,7 @@ struct PlayedGame : testing::Test {
     cell = program.FirstEmptyCell();
     program.ClickMark(cell, program.SolutionAt(cell));
   }
-  int Digit() { return program.form().Cell(cell).text; }
+  int Digit() { return program.Display().Cell(cell).text; }
 
   WindowProgram program;
   int cell = 0;

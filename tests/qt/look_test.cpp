@@ -21,7 +21,7 @@ void ExpectBoardShowsTheForm(WindowProgram& program) {
   QImage expected = seen;
   QPainter painter(&expected);
   painter.scale(1 / board.devicePixelRatioF(), 1 / board.devicePixelRatioF());
-  BoardPainter(program.form(), program.state(), geometry, board.font())
+  BoardPainter(program.Display(), program.State(), geometry, board.font())
       .Paint(painter, geometry.BoardRect(), {});
   EXPECT_EQ(seen.copy(geometry.BoardRect()), expected.copy(geometry.BoardRect()));
 }
@@ -45,7 +45,7 @@ TEST(Look, UpdatesLeaveNoTraces) {
   QImage updated(program.window.size() * program.window.devicePixelRatioF(), QImage::Format_RGB32);
   int events = 0;
   for (int cell = 0; cell < kCellCount && events < 30; ++cell) {
-    if (program.form().Cell(cell).text != 0) continue;
+    if (program.Display().Cell(cell).text != 0) continue;
     program.ClickMark(cell, program.SolutionAt(cell));
     ++events;
   }
@@ -66,8 +66,8 @@ TEST(Look, BordersAreSharpWhereverTheBoardLies) {
     const BoardGeometry geometry = board.Geometry();
     const int width = geometry.BorderWidth();
     for (int cell = 0; cell < kCellCount - 1; ++cell) {
-      const bool border = program.state().CageOfCell[static_cast<std::size_t>(cell)] !=
-                          program.state().CageOfCell[static_cast<std::size_t>(cell + 1)];
+      const bool border = program.State().CageOfCell[static_cast<std::size_t>(cell)] !=
+                          program.State().CageOfCell[static_cast<std::size_t>(cell + 1)];
       if (ColumnOf(cell) == kSide - 1 || !border) continue;
       const QRect right = geometry.CellRect(cell + 1).translated(offset);
       const int y = right.top() + geometry.CellSide() / 2;

@@ -123,13 +123,13 @@ TEST(MenuBar, EntriesOfTheGameFollowItsControls) {
     EXPECT_TRUE(IsEnabled(program, entry)) << TraitsOf(entry).text;
   }
   BarOf(program).Of(Entry::kSolution)->trigger();
-  EXPECT_EQ(program.state().PlayBoard.Board, program.state().PlayBoard.Solution);
+  EXPECT_EQ(program.State().PlayBoard.Board, program.State().PlayBoard.Solution);
   EXPECT_FALSE(IsEnabled(program, Entry::kSolution));
   EXPECT_FALSE(IsEnabled(program, Entry::kHint));
   BarOf(program).Of(Entry::kRestart)->trigger();
-  EXPECT_EQ(program.state().PlayBoard, program.state().SavedPuzzle);
+  EXPECT_EQ(program.State().PlayBoard, program.State().SavedPuzzle);
   BarOf(program).Of(Entry::kHint)->trigger();
-  EXPECT_NE(program.form().TextHint(), texts::kPressHint);
+  EXPECT_NE(program.Display().TextHint(), texts::kPressHint);
 }
 
 TEST(MenuBar, RunningCommandLeavesHelpAlone) {

@@ -10,13 +10,13 @@ namespace {
 
 // What a game leaves behind, wherever it was played.
 void ExpectSameGame(WindowProgram& one, WindowProgram& other) {
-  EXPECT_EQ(one.state().PlayBoard, other.state().PlayBoard);
-  EXPECT_EQ(one.state().Candidates, other.state().Candidates);
+  EXPECT_EQ(one.State().PlayBoard, other.State().PlayBoard);
+  EXPECT_EQ(one.State().Candidates, other.State().Candidates);
   EXPECT_EQ(one.player.played, other.player.played);
   for (int cell = 0; cell < kCellCount; ++cell) {
-    EXPECT_EQ(one.form().Cell(cell).text, other.form().Cell(cell).text);
+    EXPECT_EQ(one.Display().Cell(cell).text, other.Display().Cell(cell).text);
     for (int digit = 1; digit <= kSide; ++digit) {
-      EXPECT_EQ(one.form().Mark(cell, digit).visible, other.form().Mark(cell, digit).visible);
+      EXPECT_EQ(one.Display().Mark(cell, digit).visible, other.Display().Mark(cell, digit).visible);
     }
   }
 }
@@ -43,22 +43,22 @@ TEST(Play, KeyboardActsLikeTheMouse) {
 
   mouse.ClickMark(cell, digit);
   keyboard.Key(Qt::Key_0 + digit);
-  EXPECT_EQ(keyboard.form().Cell(cell).text, digit);
+  EXPECT_EQ(keyboard.Display().Cell(cell).text, digit);
   ExpectSameGame(mouse, keyboard);
 
   mouse.ClickMark(cell, 1, Qt::RightButton);
   keyboard.Key(Qt::Key_Delete);
-  EXPECT_EQ(keyboard.form().Cell(cell).text, 0);
+  EXPECT_EQ(keyboard.Display().Cell(cell).text, 0);
   ExpectSameGame(mouse, keyboard);
 
   mouse.ClickMark(cell, digit, Qt::RightButton);
   keyboard.Key(Qt::Key_0 + digit, Qt::ControlModifier);
-  EXPECT_FALSE(keyboard.form().Mark(cell, digit).visible);
+  EXPECT_FALSE(keyboard.Display().Mark(cell, digit).visible);
   ExpectSameGame(mouse, keyboard);
 
   mouse.ClickMark(cell, 3, Qt::MiddleButton);
   keyboard.Key(Qt::Key_Insert);
-  EXPECT_TRUE(keyboard.form().Mark(cell, digit).visible);
+  EXPECT_TRUE(keyboard.Display().Mark(cell, digit).visible);
   ExpectSameGame(mouse, keyboard);
 }
 
@@ -72,7 +72,7 @@ TEST(Play, WholeGameByMouseAndByKeyboardEndsInTheSameApplause) {
   }
   EXPECT_TRUE(keyboard.Board()->hasFocus()) << "Solve hands the keyboard to the board";
   for (int cell = 0; cell < kCellCount; ++cell) {
-    if (mouse.form().Cell(cell).text != 0) continue;
+    if (mouse.Display().Cell(cell).text != 0) continue;
     const int digit = mouse.SolutionAt(cell);
     mouse.ClickMark(cell, digit);
     GoTo(keyboard, cell);
@@ -90,10 +90,10 @@ TEST(Play, DeleteInAnEmptyCellTogglesNoMark) {
   program.Board()->setFocus();
   const int cell = program.FirstEmptyCell();
   GoTo(program, cell);
-  const MaskBoard before = program.state().Candidates;
+  const MaskBoard before = program.State().Candidates;
   program.Key(Qt::Key_Delete);
   program.Key(Qt::Key_Backspace);
-  EXPECT_EQ(program.state().Candidates, before);
+  EXPECT_EQ(program.State().Candidates, before);
 }
 
 TEST(Play, UntickedPencilmarksShowAllMarksAndBoxStaysInStep) {
@@ -103,7 +103,7 @@ TEST(Play, UntickedPencilmarksShowAllMarksAndBoxStaysInStep) {
   EXPECT_FALSE(program.Box("CheckPencilmarks")->isChecked());
   const int cell = program.FirstEmptyCell();
   for (int digit = 1; digit <= kSide; ++digit) {
-    EXPECT_TRUE(program.form().Mark(cell, digit).visible);
+    EXPECT_TRUE(program.Display().Mark(cell, digit).visible);
   }
   program.ClickBox("CheckPencilmarks");
   EXPECT_TRUE(program.Box("CheckPencilmarks")->isChecked());
@@ -113,8 +113,8 @@ TEST(Play, HintIsWrittenAndItsLinesTurnRed) {
   WindowProgram program;
   program.OpenPuzzle();
   program.Click("CommandHint");
-  EXPECT_EQ(program.Find<QLabel>("TextHint")->text().toStdString(), program.form().TextHint());
-  EXPECT_NE(program.form().TextHint(), "Press [Hint] if you got stuck");
+  EXPECT_EQ(program.Find<QLabel>("TextHint")->text().toStdString(), program.Display().TextHint());
+  EXPECT_NE(program.Display().TextHint(), "Press [Hint] if you got stuck");
 }
 
 TEST(Play, SolutionDisablesHintAndSolutionUntilRestart) {
@@ -142,12 +142,12 @@ TEST(Play, DigitRowCountsByItsPlace) {
   press(Qt::Key_Ampersand, 9 + digit, Qt::ShiftModifier);  // an American sign
   press(Qt::Key_Agrave, 19, Qt::NoModifier);               // the place of 0
   press(Qt::Key_Q, 24, Qt::NoModifier);
-  EXPECT_EQ(program.form().Cell(cell).text, 0);
+  EXPECT_EQ(program.Display().Cell(cell).text, 0);
   press(Qt::Key_Ampersand, 9 + digit, Qt::ControlModifier);
-  EXPECT_FALSE(program.form().Mark(cell, digit).visible);
+  EXPECT_FALSE(program.Display().Mark(cell, digit).visible);
   press(Qt::Key_Ampersand, 9 + digit, Qt::ControlModifier);
   press(Qt::Key_Ampersand, 9 + digit, Qt::NoModifier);
-  EXPECT_EQ(program.form().Cell(cell).text, digit);
+  EXPECT_EQ(program.Display().Cell(cell).text, digit);
 }
 
 }  // namespace

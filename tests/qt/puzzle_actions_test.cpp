@@ -70,12 +70,12 @@ TEST_F(PuzzleMenu, NewIsReadyToPlayAndKeepsTheChoices) {
     QTest::keyClick(&dialog, Qt::Key_Return);
   });
   Choose(Entry::kNew);
-  EXPECT_TRUE(program.form().SolveButtonsVisible());
+  EXPECT_TRUE(program.Display().SolveButtonsVisible());
   EXPECT_TRUE(program.Board()->hasFocus() || program.window.focusWidget() == program.Board());
   grade::Grader grader;
   EXPECT_EQ(grader.GradeOf(*program.main.PuzzleAtHand())->level, grade::Level::kHard);
   EXPECT_FALSE(std::filesystem::exists(program.folder.PuzzleFile()));
-  const PuzzleRecord before = program.state().PlayBoard;
+  const PuzzleRecord before = program.State().PlayBoard;
   NewPuzzleWish wish;
   Inside<NewPuzzleDialog>([&wish](NewPuzzleDialog& dialog) {
     wish = dialog.Wish();
@@ -83,19 +83,19 @@ TEST_F(PuzzleMenu, NewIsReadyToPlayAndKeepsTheChoices) {
   });
   Choose(Entry::kNew);
   EXPECT_EQ(wish.level, grade::Level::kHard);
-  EXPECT_EQ(program.state().PlayBoard, before);
+  EXPECT_EQ(program.State().PlayBoard, before);
 }
 
 TEST_F(PuzzleMenu, NewAfterAGameThatIsOverAsksNothing) {
   program.OpenPuzzle();
   program.Click("CommandSolution");
-  const PuzzleRecord before = program.state().SavedPuzzle;
+  const PuzzleRecord before = program.State().SavedPuzzle;
   Inside<NewPuzzleDialog>(
       [](NewPuzzleDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
   Choose(Entry::kNew);
-  EXPECT_NE(program.state().SavedPuzzle, before);
-  EXPECT_FALSE(program.state().Finished);
-  EXPECT_TRUE(program.form().SolveButtonsVisible());
+  EXPECT_NE(program.State().SavedPuzzle, before);
+  EXPECT_FALSE(program.State().Finished);
+  EXPECT_TRUE(program.Display().SolveButtonsVisible());
 }
 
 TEST_F(PuzzleMenu, PasteOpensEveryFormatOfText) {
@@ -174,7 +174,7 @@ TEST_F(PuzzleMenu, OpenReadsAFile) {
 
 TEST_F(PuzzleMenu, ARunningGameIsLeftAfterItsQuestionAlone) {
   program.OpenPuzzle();
-  const PuzzleRecord before = program.state().PlayBoard;
+  const PuzzleRecord before = program.State().PlayBoard;
   std::string asked;
   Inside<QMessageBox>([&asked](QMessageBox& box) {
     asked = box.text().toStdString();
@@ -182,11 +182,11 @@ TEST_F(PuzzleMenu, ARunningGameIsLeftAfterItsQuestionAlone) {
   });
   Paste(ExampleIn("text"));
   EXPECT_EQ(asked, "Do you really want to quit solving ?");
-  EXPECT_EQ(program.state().PlayBoard, before);
+  EXPECT_EQ(program.State().PlayBoard, before);
   Inside<QMessageBox>([](QMessageBox& box) { box.button(QMessageBox::Yes)->click(); });
   Paste(ExampleIn("text"));
   EXPECT_TRUE(IsExampleOpen());
-  EXPECT_FALSE(program.form().SolveButtonsVisible());
+  EXPECT_FALSE(program.Display().SolveButtonsVisible());
 }
 
 TEST_F(PuzzleMenu, ExportAndExplainWriteFilesAndTell) {
@@ -195,7 +195,7 @@ TEST_F(PuzzleMenu, ExportAndExplainWriteFilesAndTell) {
   Inside<QFileDialog>([&](QFileDialog& dialog) { TypePath(dialog, board); });
   Choose(Entry::kExport);
   EXPECT_THAT(Contents(board), HasSubstr("<svg"));
-  EXPECT_EQ(program.form().Notice(), "Exported to " + board.toStdString());
+  EXPECT_EQ(program.Display().Notice(), "Exported to " + board.toStdString());
   Inside<QFileDialog>([&](QFileDialog& dialog) { TypePath(dialog, PathTo("book")); });
   Choose(Entry::kExport);
   EXPECT_THAT(Contents(PathTo("book.pdf")), StartsWith("%PDF")) << "the usual kind and suffix";
@@ -203,7 +203,7 @@ TEST_F(PuzzleMenu, ExportAndExplainWriteFilesAndTell) {
   Inside<QFileDialog>([&](QFileDialog& dialog) { TypePath(dialog, page); });
   Choose(Entry::kExplainWay);
   EXPECT_THAT(Contents(page), HasSubstr("<html"));
-  EXPECT_EQ(program.form().Notice(), "Explained the way to " + page.toStdString());
+  EXPECT_EQ(program.Display().Notice(), "Explained the way to " + page.toStdString());
 }
 
 TEST_F(PuzzleMenu, ExportThatFailsIsTold) {
@@ -214,7 +214,7 @@ TEST_F(PuzzleMenu, ExportThatFailsIsTold) {
     static_cast<QDialog&>(dialog).done(QDialog::Accepted);
   });
   Choose(Entry::kExport);
-  EXPECT_THAT(program.form().Notice(), StartsWith("Could not write "));
+  EXPECT_THAT(program.Display().Notice(), StartsWith("Could not write "));
 }
 
 TEST_F(PuzzleMenu, PrintToAFileIsTheBooklet) {
@@ -225,7 +225,7 @@ TEST_F(PuzzleMenu, PrintToAFileIsTheBooklet) {
     dialog.accept();
   });
   Choose(Entry::kPrint);
-  EXPECT_EQ(program.form().Notice(), "Printed to " + path.toStdString());
+  EXPECT_EQ(program.Display().Notice(), "Printed to " + path.toStdString());
   EXPECT_THAT(Contents(path), StartsWith("%PDF"));
 }
 

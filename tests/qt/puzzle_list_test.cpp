@@ -165,7 +165,7 @@ TEST_F(MyPuzzles, OpensTheChosenOne) {
     EXPECT_TRUE(dialog.findChild<QPushButton*>("OpenChosen")->isEnabled());
     QTest::mouseClick(dialog.findChild<QPushButton*>("OpenChosen"), Qt::LeftButton);
   });
-  EXPECT_EQ(program.state().SavedPuzzle, Made(1));
+  EXPECT_EQ(program.State().SavedPuzzle, Made(1));
   EXPECT_EQ(std::filesystem::file_size(program.folder.PuzzleFile()), 3 * 243 + 8u);
 }
 

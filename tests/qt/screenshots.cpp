@@ -100,7 +100,7 @@ class Photographer {
   // The mouse moves to the first mark that can be placed there, with that button down.
   void PointAt(int cell, Qt::MouseButtons buttons = Qt::NoButton) {
     int digit = 1;
-    while (!main_.form().Mark(cell, digit).visible) ++digit;
+    while (!main_.Display().Mark(cell, digit).visible) ++digit;
     const QRectF place = Board().CellRect(cell);
     const CellPosition at = MarkCentre(digit);
     const QPointF point =
@@ -134,7 +134,7 @@ class Photographer {
   }
 
   int EmptyCell(int from) const {
-    while (main_.state().PlayBoard.Board[static_cast<std::size_t>(from)] != 0) ++from;
+    while (main_.State().PlayBoard.Board[static_cast<std::size_t>(from)] != 0) ++from;
     return from;
   }
 
@@ -142,10 +142,10 @@ class Photographer {
   void Place(int count, int wrong) {
     for (int cell = 0; cell < kCellCount && count > 0; ++cell) {
       const auto i = static_cast<std::size_t>(cell);
-      if (main_.state().PlayBoard.Board[i] != 0) continue;
+      if (main_.State().PlayBoard.Board[i] != 0) continue;
       for (int step = wrong; step < kSide; ++step) {
-        const int digit = (main_.state().PlayBoard.Solution[i] - 1 + step) % kSide + 1;
-        if (!main_.form().Mark(cell, digit).visible) continue;
+        const int digit = (main_.State().PlayBoard.Solution[i] - 1 + step) % kSide + 1;
+        if (!main_.Display().Mark(cell, digit).visible) continue;
         const CellPosition at = MarkCentre(digit);
         emit Board().CellReleased(cell, MouseButton::kLeft, at.x, at.y);
         break;

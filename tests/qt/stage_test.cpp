@@ -59,7 +59,7 @@ TEST(Stage, DisabledButtonDoesNothing) {
 template <typename Action>
 void InTheMiddle(WindowProgram& program, const Action& action) {
   QTimer::singleShot(0, &program.window, [&program, action] {
-    ASSERT_FALSE(program.form().SolveButtonsEnabled()) << "no command is at work";
+    ASSERT_FALSE(program.Display().SolveButtonsEnabled()) << "no command is at work";
     action();
   });
 }
@@ -123,7 +123,7 @@ TEST(Stage, SolvingControlsAnswerNothingWhileACommandRuns) {
   WindowProgram program;
   program.OpenPuzzle();
   program.ClickBox("CheckVisualize");
-  const PuzzleRecord before = program.state().PlayBoard;
+  const PuzzleRecord before = program.State().PlayBoard;
   const int empty = program.FirstEmptyCell();
   InTheMiddle(program, [&] {
     EXPECT_FALSE(program.Find<QFrame>("SolveButtons")->isEnabled());
@@ -134,8 +134,8 @@ TEST(Stage, SolvingControlsAnswerNothingWhileACommandRuns) {
     program.Click("CommandGo");
   });
   program.Click("CommandGo");
-  EXPECT_EQ(program.state().PlayBoard, before);
-  EXPECT_TRUE(program.form().Checked(CheckBox::CheckPencilmarks));
+  EXPECT_EQ(program.State().PlayBoard, before);
+  EXPECT_TRUE(program.Display().Checked(CheckBox::CheckPencilmarks));
   EXPECT_TRUE(program.Find<QFrame>("SolveButtons")->isEnabled());
 }
 

@@ -43,7 +43,7 @@ QImage Painted(WindowProgram& program, const BoardHighlights& highlights,
   QPainter painter(&image);
   painter.scale(1 / board.devicePixelRatioF(), 1 / board.devicePixelRatioF());
   const BoardGeometry geometry = board.Geometry();
-  BoardPainter painted(program.form(), program.state(), geometry, board.font());
+  BoardPainter painted(program.Display(), program.State(), geometry, board.font());
   painted.SetCageColours(colours);
   painted.Paint(painter, geometry.BoardRect(), highlights);
   return image;
@@ -98,7 +98,7 @@ TEST_F(ViewMenu, SoundsCanBeMutedAtAnyTime) {
     const std::size_t before = program.player.played.size();
     const int cell = program.FirstEmptyCell();
     program.ClickMark(cell, program.SolutionAt(cell));
-    EXPECT_NE(program.form().Cell(cell).text, 0);
+    EXPECT_NE(program.Display().Cell(cell).text, 0);
     return program.player.played.size() - before;
   };
   EXPECT_EQ(playedByAMove(), 1u);
@@ -114,11 +114,11 @@ TEST_F(ViewMenu, SameDigitsAreRingedInsteadOfRowAndColumn) {
   program.Board()->setFocusPolicy(Qt::NoFocus);
   program.Push("CommandSaw")->setFocus();
   int given = 0;
-  while (program.form().Cell(given).text == 0) ++given;
-  const int digit = program.form().Cell(given).text;
+  while (program.Display().Cell(given).text == 0) ++given;
+  const int digit = program.Display().Cell(given).text;
   const int empty = program.FirstEmptyCell();
   int mark = 1;
-  while (!program.form().Mark(empty, mark).visible) ++mark;
+  while (!program.Display().Mark(empty, mark).visible) ++mark;
   const auto pointAt = [&](int cell, int place) {
     QTest::mouseMove(program.Board(), program.MarkPoint(cell, place));
     return Seen(program);
@@ -155,7 +155,8 @@ TEST_F(ViewMenu, DigitBarTellsWhatIsLeftAndMovesNothing) {
   ASSERT_TRUE(bar.isVisible());
   for (int digit = 1; digit <= kSide; ++digit) {
     int left = kSide;
-    for (int cell = 0; cell < kCellCount; ++cell) left -= program.form().Cell(cell).text == digit;
+    for (int cell = 0; cell < kCellCount; ++cell)
+      left -= program.Display().Cell(cell).text == digit;
     EXPECT_EQ(bar.Of(digit)->accessibleName(), QString("Digit %1, %2 left").arg(digit).arg(left));
   }
   program.Click("CommandSolution");

@@ -31,8 +31,8 @@ struct WindowProgram {
     QCoreApplication::processEvents();
   }
 
-  const Form& form() const { return main.form(); }
-  const GameState& state() const { return main.state(); }
+  const Form& Display() const { return main.Display(); }
+  const GameState& State() const { return main.State(); }
   GameState& Probe() { return StateProbe::Of(main); }
   template <typename T>
   T* Find(const char* name) {
@@ -72,10 +72,10 @@ struct WindowProgram {
     Click("CommandSolve");
   }
   int FirstEmptyCell(int from = 0) {
-    while (state().PlayBoard.Board[static_cast<std::size_t>(from)] != 0) ++from;
+    while (State().PlayBoard.Board[static_cast<std::size_t>(from)] != 0) ++from;
     return from;
   }
-  int SolutionAt(int cell) { return state().PlayBoard.Solution[static_cast<std::size_t>(cell)]; }
+  int SolutionAt(int cell) { return State().PlayBoard.Solution[static_cast<std::size_t>(cell)]; }
 
   TemporaryFolder folder;
   FakeClock clock;

@@ -10,7 +10,7 @@ class CellClick : public SolvingTest {};
 TEST_F(CellClick, LeftPlacesTheDigitWhoseMarkIsClicked) {
   Left(kEmpty, 2);
   EXPECT_EQ(Board(kEmpty), 2);
-  EXPECT_EQ(form().Cell(kEmpty).text, 2);
+  EXPECT_EQ(Display().Cell(kEmpty).text, 2);
   EXPECT_EQ(Shown(kEmpty), 0);
   EXPECT_THAT(TakeSounds(), ElementsAre(2));
 }
@@ -18,7 +18,7 @@ TEST_F(CellClick, LeftPlacesTheDigitWhoseMarkIsClicked) {
 TEST_F(CellClick, LeftKeepsTheCellsCandidatesAndClearsThem) {
   const Mask before = Candidates(kEmpty);
   Left(kEmpty, 2);
-  EXPECT_EQ(state().CandidatesBeforeEntry[kEmpty], before);
+  EXPECT_EQ(State().CandidatesBeforeEntry[kEmpty], before);
   EXPECT_EQ(Candidates(kEmpty), 0);
 }
 
@@ -84,7 +84,7 @@ TEST_F(CellClick, RightTakesTheDigitOutAndGivesTheCellItsMarksBack) {
   TakeSounds();
   Right(kEmpty, 9);
   EXPECT_EQ(Board(kEmpty), 0);
-  EXPECT_EQ(form().Cell(kEmpty).text, 0);
+  EXPECT_EQ(Display().Cell(kEmpty).text, 0);
   EXPECT_EQ(Candidates(kEmpty), before);
   EXPECT_EQ(Shown(kEmpty), before);
   EXPECT_THAT(TakeSounds(), ElementsAre(1));
@@ -118,12 +118,12 @@ TEST_F(CellClick, RightOnAnEmptyCellAddsACandidateEvenOneThatANeighbourHolds) {
 }
 
 TEST_F(CellClick, RightTogglesBackAndForth) {
-  const MaskBoard before = state().Candidates;
+  const MaskBoard before = State().Candidates;
   for (int digit = 1; digit <= kSide; ++digit) {
     Right(kEmpty, digit);
     Right(kEmpty, digit);
   }
-  EXPECT_EQ(state().Candidates, before);
+  EXPECT_EQ(State().Candidates, before);
 }
 
 TEST_F(CellClick, RightWithoutUpdatesTakesADigitOut) {
@@ -213,17 +213,17 @@ TEST_F(CellClick, ThatLeavesDoesNotEvenEndAPendingAssignment) {
 
 TEST_F(CellClick, LeavesRedCaptionsAndTheHintTextAsTheyAre) {
   Announce(40);
-  const std::string hint = form().TextHint();
+  const std::string hint = Display().TextHint();
   Left(kEmpty, 2);
   EXPECT_EQ(RedCaptions(), "E5");
-  EXPECT_EQ(form().TextHint(), hint);
+  EXPECT_EQ(Display().TextHint(), hint);
 }
 
 TEST_F(CellClick, MarksShowWhatTheMasksHoldAfterEveryClick) {
   Left(kEmpty, 2);
   for (int cell = 0; cell < kCellCount; ++cell) {
     EXPECT_EQ(Shown(cell), Board(cell) != 0 ? 0 : Candidates(cell)) << cell;
-    EXPECT_EQ(form().Cell(cell).text, Board(cell)) << cell;
+    EXPECT_EQ(Display().Cell(cell).text, Board(cell)) << cell;
   }
 }
 

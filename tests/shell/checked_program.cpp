@@ -9,8 +9,8 @@ namespace tessel {
 
 CheckedProgram::CheckedProgram(std::uint64_t firstSeed, SystemCalls& system)
     : program_(firstSeed, system),
-      form_(program_.form()),
-      state_(program_.state()),
+      form_(program_.Display()),
+      state_(program_.State()),
       caption_(texts::kProgram) {
   program_.view.onPump = [this](long) {
     if (insidePump) insidePump(++pumps_);

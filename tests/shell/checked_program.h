@@ -36,7 +36,7 @@ class CheckedProgram {
   std::optional<Button> Running() const { return running_; }
   bool Solving() const { return solving_; }
   bool BoardIsOpen() const { return open_; }
-  const GameState& State() { return program_.state(); }
+  const GameState& State() { return program_.State(); }
 
  private:
   // What the digits of the board show.

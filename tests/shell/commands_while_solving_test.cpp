@@ -21,13 +21,13 @@ class CommandsWhileSolving : public SolvingTest {
   // Whether two different cells share a row, a column or a cage of the layout as it is now.
   bool SeeEachOther(int a, int b) {
     return a != b && (RowOf(a) == RowOf(b) || ColumnOf(a) == ColumnOf(b) ||
-                      state().CageOfCell[a] == state().CageOfCell[b]);
+                      State().CageOfCell[a] == State().CageOfCell[b]);
   }
   int CellWithAMarkInSight() {
     for (int cell = 0; cell < kCellCount; ++cell) {
       for (int digit = 1; digit <= kSide; ++digit) {
-        if (form().Mark(cell, digit).visible &&
-            form().Mark(cell, digit).colour != form().Cell(cell).PaintedBackground()) {
+        if (Display().Mark(cell, digit).visible &&
+            Display().Mark(cell, digit).colour != Display().Cell(cell).PaintedBackground()) {
           return cell;
         }
       }
@@ -38,18 +38,18 @@ class CommandsWhileSolving : public SolvingTest {
 
 TEST_F(CommandsWhileSolving, TheOldPuzzleGoesOnAfterANewSaw) {
   Left(kEmpty, 2);
-  const PuzzleRecord board = state().PlayBoard;
-  const MaskBoard candidates = state().Candidates;
+  const PuzzleRecord board = State().PlayBoard;
+  const MaskBoard candidates = State().Candidates;
   SawIrregular();
-  EXPECT_EQ(state().PlayBoard, board);
-  EXPECT_EQ(state().Candidates, candidates);
-  EXPECT_TRUE(form().SolveButtonsVisible());
+  EXPECT_EQ(State().PlayBoard, board);
+  EXPECT_EQ(State().Candidates, candidates);
+  EXPECT_TRUE(Display().SolveButtonsVisible());
   EXPECT_TRUE(BoardIsOpen());
-  EXPECT_EQ(EnabledButtons(form()), kLayoutMade);
-  EXPECT_EQ(form().Cell(kGiven).text, 0) << "Saw clears the digits";
+  EXPECT_EQ(EnabledButtons(Display()), kLayoutMade);
+  EXPECT_EQ(Display().Cell(kGiven).text, 0) << "Saw clears the digits";
   Right(kOtherEmpty, 1);
-  EXPECT_EQ(form().Cell(kGiven).text, 1) << "the next refresh shows them again";
-  EXPECT_EQ(form().Cell(kEmpty).text, 2);
+  EXPECT_EQ(Display().Cell(kGiven).text, 1) << "the next refresh shows them again";
+  EXPECT_EQ(Display().Cell(kEmpty).text, 2);
 }
 
 TEST_F(CommandsWhileSolving, ADigitPlacedAfterANewSawSeesTheNewCages) {
@@ -65,10 +65,10 @@ TEST_F(CommandsWhileSolving, ADigitPlacedAfterANewSawSeesTheNewCages) {
 
 TEST_F(CommandsWhileSolving, RestartKeepsTheNewCages) {
   SawIrregular();
-  const auto cages = state().CageOfCell;
+  const auto cages = State().CageOfCell;
   program.main.Click(Button::CommandRestart);
-  EXPECT_EQ(state().CageOfCell, cages);
-  EXPECT_EQ(state().PlayBoard, KnownPuzzle());
+  EXPECT_EQ(State().CageOfCell, cages);
+  EXPECT_EQ(State().PlayBoard, KnownPuzzle());
   for (int cell = 0; cell < kCellCount; ++cell) {
     Mask expected = IsKnownGiven(cell) ? Mask{0} : kAllCandidates;
     for (int peer = 0; peer < kCellCount; ++peer) {
@@ -84,9 +84,9 @@ TEST_F(CommandsWhileSolving, QuitPaintsTheMarksInTheNewCagesColours) {
   SawIrregular();
   program.main.Click(Button::CommandQuit);
   EXPECT_EQ(CellWithAMarkInSight(), -1);
-  EXPECT_EQ(EnabledButtons(form()), kLayoutMade);
-  EXPECT_FALSE(form().SolveButtonsVisible());
-  EXPECT_EQ(form().Cell(kGiven).text, 1) << "the old puzzle is shown";
+  EXPECT_EQ(EnabledButtons(Display()), kLayoutMade);
+  EXPECT_FALSE(Display().SolveButtonsVisible());
+  EXPECT_EQ(Display().Cell(kGiven).text, 1) << "the old puzzle is shown";
 }
 
 TEST_F(CommandsWhileSolving, TheWholeFrameWorksAfterANewSaw) {
@@ -128,37 +128,38 @@ TEST_F(CommandsWhileSolving, AFillShowsOneBlackMarkInEveryCell) {
   SawIrregular();
   program.main.Click(Button::CommandGo);
   for (int cell = 0; cell < kCellCount; ++cell) {
-    EXPECT_EQ(form().Cell(cell).text, 0);
+    EXPECT_EQ(Display().Cell(cell).text, 0);
     EXPECT_EQ(Shown(cell), kAllCandidates);
     for (int digit = 1; digit <= kSide; ++digit) {
-      EXPECT_EQ(form().Mark(cell, digit).colour == kBlack, digit == state().WorkGrid[cell]);
+      EXPECT_EQ(Display().Mark(cell, digit).colour == kBlack, digit == State().WorkGrid[cell]);
     }
   }
 }
 
 TEST_F(CommandsWhileSolving, TheFootOfTheWindowTellsThatSolveOpensTheNewPuzzle) {
-  EXPECT_EQ(form().News(), "");
+  EXPECT_EQ(Display().News(), "");
   SawIrregular();
-  EXPECT_EQ(form().News(), "Your game stays open; Solve opens the new puzzle");
+  EXPECT_EQ(Display().News(), "Your game stays open; Solve opens the new puzzle");
   program.main.Click(Button::CommandGo);
-  EXPECT_EQ(form().News(), "Your game stays open; Solve opens the new puzzle");
+  EXPECT_EQ(Display().News(), "Your game stays open; Solve opens the new puzzle");
   program.main.Click(Button::CommandConceal);
-  EXPECT_THAT(form().News(), testing::MatchesRegex("Saved as puzzle 2 in .*sds; Solve opens it"));
+  EXPECT_THAT(Display().News(),
+              testing::MatchesRegex("Saved as puzzle 2 in .*sds; Solve opens it"));
   program.main.Click(Button::CommandSolve);
-  EXPECT_EQ(form().News(), "");
+  EXPECT_EQ(Display().News(), "");
 }
 
 TEST_F(CommandsWhileSolving, TheOldBoardGoesOnAfterANewPuzzleUntilRestart) {
   Left(kEmpty, 2);
-  const PuzzleRecord board = state().PlayBoard;
+  const PuzzleRecord board = State().PlayBoard;
   SawIrregular();
   program.main.Click(Button::CommandGo);
   program.main.Click(Button::CommandConceal);
-  ASSERT_EQ(EnabledButtons(form()), kPuzzleConcealed);
-  EXPECT_EQ(state().PlayBoard, board);
-  EXPECT_NE(state().SavedPuzzle, KnownPuzzle());
+  ASSERT_EQ(EnabledButtons(Display()), kPuzzleConcealed);
+  EXPECT_EQ(State().PlayBoard, board);
+  EXPECT_NE(State().SavedPuzzle, KnownPuzzle());
   program.main.Click(Button::CommandRestart);
-  EXPECT_EQ(state().PlayBoard, state().SavedPuzzle);
+  EXPECT_EQ(State().PlayBoard, State().SavedPuzzle);
 }
 
 // The givens are those of the saved puzzle: a cell that was a given of the old board may be empty
@@ -170,7 +171,7 @@ TEST_F(CommandsWhileSolving, TheGivensAreThoseOfTheNewPuzzle) {
   for (int cell = 0; cell < kCellCount; ++cell) {
     const int before = Board(cell);
     Middle(cell);
-    EXPECT_EQ(Board(cell), state().SavedPuzzle.Board[cell] != 0 ? before : 0) << cell;
+    EXPECT_EQ(Board(cell), State().SavedPuzzle.Board[cell] != 0 ? before : 0) << cell;
   }
 }
 
@@ -180,9 +181,9 @@ TEST_F(CommandsWhileSolving, SolveOpensTheNewPuzzleOverTheOldOne) {
   program.main.Click(Button::CommandGo);
   program.main.Click(Button::CommandConceal);
   program.main.Click(Button::CommandSolve);
-  EXPECT_EQ(state().PlayBoard, state().SavedPuzzle);
+  EXPECT_EQ(State().PlayBoard, State().SavedPuzzle);
   for (int cell = 0; cell < kCellCount; ++cell) {
-    EXPECT_EQ(form().Cell(cell).text, state().SavedPuzzle.Board[cell]);
+    EXPECT_EQ(Display().Cell(cell).text, State().SavedPuzzle.Board[cell]);
     EXPECT_EQ(Shown(cell), Candidates(cell));
   }
 }

@@ -41,32 +41,32 @@ TEST_F(Continue, LaterProgramGoesOnWhereThisOneWas) {
   Right(kOtherEmpty, 4);
   Untick();
   program.main.Undo();
-  const std::string board = PictureOf(form());
+  const std::string board = PictureOf(Display());
 
   TestProgram later(1, UnthreadedCalls::Shared(), program.home);
   ASSERT_TRUE(later.main.CanContinue());
   later.main.ContinueLastGame();
-  EXPECT_EQ(static_cast<const Position&>(later.main.state()),
-            static_cast<const Position&>(state()));
-  EXPECT_EQ(later.main.state().SavedPuzzle, state().SavedPuzzle);
+  EXPECT_EQ(static_cast<const Position&>(later.main.State()),
+            static_cast<const Position&>(State()));
+  EXPECT_EQ(later.main.State().SavedPuzzle, State().SavedPuzzle);
   for (int cell = 0; cell < kCellCount; ++cell) {
-    EXPECT_EQ(later.main.form().Cell(cell).text, form().Cell(cell).text);
-    EXPECT_EQ(ShownMarks(later.main.form(), cell), Shown(cell));
-    EXPECT_EQ(later.main.form().Mark(cell, 1).colour, kBlack);
+    EXPECT_EQ(later.main.Display().Cell(cell).text, Display().Cell(cell).text);
+    EXPECT_EQ(ShownMarks(later.main.Display(), cell), Shown(cell));
+    EXPECT_EQ(later.main.Display().Mark(cell, 1).colour, kBlack);
   }
   EXPECT_TRUE(later.player.played.empty()) << "silent";
-  EXPECT_TRUE(later.main.form().Of(Button::CommandSolve).enabled);
-  EXPECT_TRUE(later.main.form().SolveButtonsVisible());
+  EXPECT_TRUE(later.main.Display().Of(Button::CommandSolve).enabled);
+  EXPECT_TRUE(later.main.Display().SolveButtonsVisible());
   EXPECT_FALSE(later.main.CanContinue()) << "it is on the board";
   later.main.Redo();
-  EXPECT_FALSE(later.main.form().Checked(CheckBox::CheckPencilmarks));
+  EXPECT_FALSE(later.main.Display().Checked(CheckBox::CheckPencilmarks));
   while (later.main.CanUndo()) later.main.Undo();
-  EXPECT_EQ(later.main.state().PlayBoard, KnownPuzzle());
+  EXPECT_EQ(later.main.State().PlayBoard, KnownPuzzle());
 }
 
 TEST_F(Continue, QuitLeavesTheGameToBeContinued) {
   PlaceRight(kEmpty);
-  const Position played = state();
+  const Position played = State();
   Press(Button::CommandQuit);
   ASSERT_TRUE(program.main.CanContinue());
   Press(Button::CommandSolve);
@@ -76,7 +76,7 @@ TEST_F(Continue, QuitLeavesTheGameToBeContinued) {
   program.main.ContinueLastGame();
   EXPECT_THAT(program.view.questions,
               testing::ElementsAre(std::string(texts::kSolver) + ": " + texts::kQuitSolving));
-  EXPECT_EQ(static_cast<const Position&>(state()), played);
+  EXPECT_EQ(static_cast<const Position&>(State()), played);
 }
 
 TEST_F(Continue, RunningGameIsKeptWhenTheQuestionIsDenied) {
@@ -134,10 +134,11 @@ TEST_F(Continue, GarbageIsPutAsideAndTold) {
     std::ofstream(File()) << "garbage" << aside;
     TestProgram later(1, UnthreadedCalls::Shared(), program.home);
     later.main.ContinueLastGame();
-    EXPECT_FALSE(later.main.form().SolveButtonsVisible());
+    EXPECT_FALSE(later.main.Display().SolveButtonsVisible());
     const fs::path path = File().string() + aside;
-    EXPECT_EQ(later.main.form().Notice(), "There is no game in " + File().string() +
-                                              " (not a game); it was renamed to " + path.string());
+    EXPECT_EQ(later.main.Display().Notice(), "There is no game in " + File().string() +
+                                                 " (not a game); it was renamed to " +
+                                                 path.string());
     EXPECT_EQ(BytesOf(path), std::string("garbage") + aside);
     EXPECT_FALSE(later.main.CanContinue());
   }
@@ -170,15 +171,15 @@ TEST_P(ContinueWithFaults, WhatCannotBeWrittenLeavesTheFileWhole) {
   const fs::path file = program.folder.Path() / kGameFileName;
   const auto place = [&](int nth) {
     for (int cell = 0; cell < kCellCount; ++cell) {
-      if (program.state().PlayBoard.Board[cell] != 0 || nth-- > 0) continue;
-      return program.ClickMark(cell, program.state().PlayBoard.Solution[cell], MouseButton::kLeft);
+      if (program.State().PlayBoard.Board[cell] != 0 || nth-- > 0) continue;
+      return program.ClickMark(cell, program.State().PlayBoard.Solution[cell], MouseButton::kLeft);
     }
   };
   place(0);
   const std::string before = BytesOf(file);
   system.Fail(GetParam(), EIO, 2);
   place(0);
-  EXPECT_EQ(program.form().Notice(),
+  EXPECT_EQ(program.Display().Notice(),
             "The game could not be kept in " + file.string() + ": Input/output error");
   EXPECT_EQ(BytesOf(file), before);
   program.main.Undo();
@@ -252,9 +253,9 @@ TEST_F(Continue, KilledAtTwoHundredMomentsItLosesNoMoveThatWasMade) {
     const std::string kept = BytesOf(File());
 
     Player player(program.main, seed);  // the same game again
-    const Position opened = state();
+    const Position opened = State();
     for (long move = 0; move < made; ++move) player.Move();
-    const Position latest = state();
+    const Position latest = State();
     player.Move();
     if (kept.empty()) {
       EXPECT_EQ(latest, opened) << "no move has acted";
@@ -262,7 +263,7 @@ TEST_F(Continue, KilledAtTwoHundredMomentsItLosesNoMoveThatWasMade) {
     }
     const auto game = ReadGame(kept);
     ASSERT_TRUE(game.has_value()) << game.error() << " after " << made << " moves";
-    EXPECT_TRUE(game->position == latest || game->position == state()) << made << " moves";
+    EXPECT_TRUE(game->position == latest || game->position == State()) << made << " moves";
     ++continued;
   }
   EXPECT_GT(continued, 150);

@@ -86,7 +86,7 @@ TEST_F(EventsInsideCommands, CommandsNeverNest) {
     EXPECT_EQ(Snapshot(program), before);
   });
   program.main.Click(Button::CommandGo);
-  EXPECT_EQ(EnabledButtons(program.form()), kGridFilled);
+  EXPECT_EQ(EnabledButtons(program.Display()), kGridFilled);
 }
 
 TEST_F(EventsInsideCommands, StopInsideStopOnlyAsksAgain) {
@@ -98,9 +98,9 @@ TEST_F(EventsInsideCommands, StopInsideStopOnlyAsksAgain) {
   const long before = program.view.pumps;
   program.main.Click(Button::CommandGo);
   program.view.onPump = nullptr;
-  EXPECT_EQ(EnabledButtons(program.form()), kLayoutMade);
+  EXPECT_EQ(EnabledButtons(program.Display()), kLayoutMade);
   program.main.Click(Button::CommandGo);
-  EXPECT_EQ(EnabledButtons(program.form()), kGridFilled) << "no stop is left over";
+  EXPECT_EQ(EnabledButtons(program.Display()), kGridFilled) << "no stop is left over";
   EXPECT_GT(program.view.pumps, before);
 }
 
@@ -110,7 +110,7 @@ TEST_F(EventsInsideCommands, ClosingIsRefusedWithoutAQuestionAndTheFillGoesOn) {
   program.main.Click(Button::CommandGo);
   EXPECT_GT(interruptions, 0);
   EXPECT_TRUE(program.view.questions.empty());
-  EXPECT_EQ(EnabledButtons(program.form()), kGridFilled);
+  EXPECT_EQ(EnabledButtons(program.Display()), kGridFilled);
 }
 
 TEST_F(EventsInsideCommands, StopEndsAFillWithinOneIteration) {
@@ -124,7 +124,7 @@ TEST_F(EventsInsideCommands, StopEndsAFillWithinOneIteration) {
       };
       program.main.Click(Button::CommandGo);
       EXPECT_EQ(program.view.pumps, target) << "no pump after the click";
-      EXPECT_EQ(EnabledButtons(program.form()), kLayoutMade);
+      EXPECT_EQ(EnabledButtons(program.Display()), kLayoutMade);
     }
   }
 }
@@ -144,7 +144,7 @@ TEST_F(EventsInsideCommands, StopEndsTheDrawnPartOfAFillWithinOneIteration) {
   program.main.Click(Button::CommandGo);
   EXPECT_GT(stopped, 0);
   EXPECT_EQ(program.view.pumps, stopped);
-  EXPECT_EQ(EnabledButtons(program.form()), kLayoutMade);
+  EXPECT_EQ(EnabledButtons(program.Display()), kLayoutMade);
 }
 
 // The uniqueness test at work ends first.
@@ -156,16 +156,16 @@ TEST_F(EventsInsideCommands, StopEndsAConcealAfterTheRunningTest) {
   program.view.onPump = [&](long pump) {
     if (pump == target) program.main.Click(Button::CommandConceal);
     if (pump > target) {
-      EXPECT_TRUE(program.state().StopRequested);
+      EXPECT_TRUE(program.State().StopRequested);
       EXPECT_EQ(redraws, 0) << "a new pass begins";
     }
   };
   program.view.onChange = [&](FormPart part, int) {
-    if (part == FormPart::kCell && program.state().StopRequested) ++redraws;
+    if (part == FormPart::kCell && program.State().StopRequested) ++redraws;
   };
   program.main.Click(Button::CommandConceal);
-  EXPECT_EQ(EnabledButtons(program.form()), kGridFilled);
-  EXPECT_EQ(program.form().Of(Button::CommandConceal).caption, texts::kConceal);
+  EXPECT_EQ(EnabledButtons(program.Display()), kGridFilled);
+  EXPECT_EQ(program.Display().Of(Button::CommandConceal).caption, texts::kConceal);
 }
 
 // The first cage is the first row but for its last cell, in whose place it has the cell below: the
@@ -185,7 +185,7 @@ TEST_F(EventsInsideCommands, AFillWithoutSolutionEndsByStop) {
   };
   program.main.Click(Button::CommandGo);
   EXPECT_EQ(program.view.pumps, target);
-  EXPECT_EQ(EnabledButtons(program.form()), kLayoutMade);
+  EXPECT_EQ(EnabledButtons(program.Display()), kLayoutMade);
 }
 
 // The pumps of a fill before which something was drawn; `act` is done inside every one.
@@ -199,7 +199,7 @@ std::vector<long> DrawnPumps(TestProgram& program, const std::function<void(long
     act(pump);
   };
   program.main.Click(Button::CommandGo);
-  EXPECT_EQ(EnabledButtons(program.form()), kGridFilled);
+  EXPECT_EQ(EnabledButtons(program.Display()), kGridFilled);
   return drawn;
 }
 
@@ -230,31 +230,31 @@ TEST_F(EventsInsideCommands, VisualizeTickedInATryOutDrawsTheFill) {
   program.view.onPump = [&](long) { program.Tick(CheckBox::CheckVisualize); };
   program.main.Click(Button::CommandGo);
   EXPECT_GT(changes, 3 * kCellCount);
-  EXPECT_EQ(EnabledButtons(program.form()), kGridFilled);
+  EXPECT_EQ(EnabledButtons(program.Display()), kGridFilled);
 }
 
 TEST_F(EventsInsideCommands, TheFrameIsDisabledAsAWholeAndItsStatesUntouched) {
   OpenPuzzle();
   program.main.Click(Button::CommandSolution);  // Hint and Solution are off now
   OnPumps([this] {
-    EXPECT_TRUE(program.form().SolveButtonsVisible());
-    EXPECT_FALSE(program.form().SolveButtonsEnabled());
-    EXPECT_FALSE(program.form().Of(Button::CommandHint).enabled);
-    EXPECT_FALSE(program.form().Of(Button::CommandSolution).enabled);
-    EXPECT_TRUE(program.form().Of(Button::CommandRestart).enabled);
-    EXPECT_TRUE(program.form().Of(Button::CommandQuit).enabled);
+    EXPECT_TRUE(program.Display().SolveButtonsVisible());
+    EXPECT_FALSE(program.Display().SolveButtonsEnabled());
+    EXPECT_FALSE(program.Display().Of(Button::CommandHint).enabled);
+    EXPECT_FALSE(program.Display().Of(Button::CommandSolution).enabled);
+    EXPECT_TRUE(program.Display().Of(Button::CommandRestart).enabled);
+    EXPECT_TRUE(program.Display().Of(Button::CommandQuit).enabled);
   });
   program.MakePuzzle();
   EXPECT_GT(interruptions, 0);
-  EXPECT_TRUE(program.form().SolveButtonsEnabled());
-  EXPECT_FALSE(program.form().Of(Button::CommandHint).enabled);
-  EXPECT_TRUE(program.form().Of(Button::CommandRestart).enabled);
+  EXPECT_TRUE(program.Display().SolveButtonsEnabled());
+  EXPECT_FALSE(program.Display().Of(Button::CommandHint).enabled);
+  EXPECT_TRUE(program.Display().Of(Button::CommandRestart).enabled);
 }
 
 TEST_F(EventsInsideCommands, NothingPlaysTheOpenPuzzle) {
   OpenPuzzle();
-  const PuzzleRecord board = program.state().PlayBoard;
-  const MaskBoard candidates = program.state().Candidates;
+  const PuzzleRecord board = program.State().PlayBoard;
+  const MaskBoard candidates = program.State().Candidates;
   const std::size_t sounds = program.player.played.size();
   for (const Button command : {Button::CommandSaw, Button::CommandGo, Button::CommandConceal}) {
     interruptions = 0;
@@ -262,8 +262,8 @@ TEST_F(EventsInsideCommands, NothingPlaysTheOpenPuzzle) {
     OnPumps([this, command] { DisturbCommand(program, {command}); });
     program.main.Click(command);
     EXPECT_GT(interruptions, 0);
-    EXPECT_EQ(program.state().PlayBoard, board);
-    EXPECT_EQ(program.state().Candidates, candidates);
+    EXPECT_EQ(program.State().PlayBoard, board);
+    EXPECT_EQ(program.State().Candidates, candidates);
     EXPECT_EQ(program.player.played.size(), sounds);
     EXPECT_TRUE(program.view.questions.empty());
   }
@@ -273,12 +273,12 @@ TEST_F(EventsInsideCommands, EveryClickOnAHalfMadeLayoutIsSafe) {
   OpenPuzzle();
   bool sawUnclaimed = false;
   OnPumps([&] {
-    sawUnclaimed = sawUnclaimed || std::ranges::count(program.state().CageOfCell, 0) > 0;
+    sawUnclaimed = sawUnclaimed || std::ranges::count(program.State().CageOfCell, 0) > 0;
     DisturbCommand(program);
   });
   program.main.Click(Button::CommandSaw);
   EXPECT_TRUE(sawUnclaimed);
-  EXPECT_EQ(EnabledButtons(program.form()), kLayoutMade);
+  EXPECT_EQ(EnabledButtons(program.Display()), kLayoutMade);
 }
 
 TEST_F(EventsInsideCommands, ClicksBeforeTheFirstLayoutAreSafe) {

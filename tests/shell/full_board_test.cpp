@@ -58,7 +58,7 @@ TEST_F(FullBoard, TheBoxStillRedrawsAndTheGameStaysOver) {
   Untick();
   program.Tick(CheckBox::CheckPencilmarks);
   EXPECT_FALSE(BoardIsOpen());
-  EXPECT_EQ(form().Cell(kEmpty).text, KnownSolution(kEmpty));
+  EXPECT_EQ(Display().Cell(kEmpty).text, KnownSolution(kEmpty));
 }
 
 }  // namespace

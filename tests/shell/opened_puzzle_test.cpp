@@ -30,12 +30,12 @@ class OpenedPuzzle : public testing::Test {
  protected:
   OpenedPuzzle() { made.MakePuzzle(); }
 
-  Puzzle Made() const { return PuzzleOf(made.state().SavedPuzzle); }
+  Puzzle Made() const { return PuzzleOf(made.State().SavedPuzzle); }
   static void Solve(TestProgram& program) { program.main.Click(Button::CommandSolve); }
   void ExpectLikeMade() {
     EXPECT_EQ(Shown(opened), Shown(made));
-    EXPECT_EQ(opened.state().CageCells, made.state().CageCells);
-    EXPECT_EQ(opened.form().Caption(), "Tessel Sudoku");
+    EXPECT_EQ(opened.State().CageCells, made.State().CageCells);
+    EXPECT_EQ(opened.Display().Caption(), "Tessel Sudoku");
   }
 
   TestProgram made{1};
@@ -60,10 +60,10 @@ TEST_F(OpenedPuzzle, TakesTheNextSteps) {
   Solve(made);
   ExpectLikeMade();
   opened.main.Click(Button::CommandSolution);
-  EXPECT_EQ(opened.state().PlayBoard.Board, Made().solution);
+  EXPECT_EQ(opened.State().PlayBoard.Board, Made().solution);
   opened.main.Click(Button::CommandConceal);
-  EXPECT_EQ(opened.state().SavedPuzzle.Solution, Made().solution);
-  EXPECT_EQ(opened.state().SavedPuzzle.CageMap, Made().layout.Cages());
+  EXPECT_EQ(opened.State().SavedPuzzle.Solution, Made().solution);
+  EXPECT_EQ(opened.State().SavedPuzzle.CageMap, Made().layout.Cages());
 }
 
 TEST_F(OpenedPuzzle, MayComeAtAnyStage) {
@@ -105,8 +105,8 @@ class OpenedOverAGame : public OpenedPuzzle {
 TEST_F(OpenedOverAGame, AsksAsQuitDoes) {
   EXPECT_TRUE(opened.main.OpenPuzzle(Made()));
   EXPECT_THAT(opened.view.questions, testing::ElementsAre(kQuitSolving));
-  EXPECT_FALSE(opened.form().SolveButtonsVisible());
-  EXPECT_EQ(opened.state().SavedPuzzle, made.state().SavedPuzzle);
+  EXPECT_FALSE(opened.Display().SolveButtonsVisible());
+  EXPECT_EQ(opened.State().SavedPuzzle, made.State().SavedPuzzle);
   Solve(opened);
   Solve(made);
   ExpectLikeMade();

@@ -124,14 +124,14 @@ TEST(WindowDuringASlowSave, IsPumpedAndRefusesToClose) {
     if (program.view.beeps == 0) return;  // still concealing
     if (pumps++ == 0) disk.WaitForHold();
     EXPECT_FALSE(program.main.Form_QueryUnload());
-    EXPECT_EQ(EnabledButtons(program.form()), kConcealing);
+    EXPECT_EQ(EnabledButtons(program.Display()), kConcealing);
     disk.now += 1'000;
   };
   program.MakePuzzle();
   EXPECT_EQ(pumps, 3);
   EXPECT_TRUE(program.view.questions.empty());
-  EXPECT_EQ(EnabledButtons(program.form()), kPuzzleConcealed);
-  EXPECT_THAT(program.form().Notice(), testing::EndsWith("the puzzle may still arrive"));
+  EXPECT_EQ(EnabledButtons(program.Display()), kPuzzleConcealed);
+  EXPECT_THAT(program.Display().Notice(), testing::EndsWith("the puzzle may still arrive"));
   disk.Release();
   EXPECT_EQ(RecordsOf(program.folder.PuzzleFile()).size(), 1u);
 }

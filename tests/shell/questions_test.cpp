@@ -69,7 +69,7 @@ TEST_F(Questions, ExitAndCloseAskInTheFirstStageToo) {
 TEST_F(Questions, QuitAsksUnderTheSolversTitle) {
   program.main.Click(Button::CommandQuit);
   EXPECT_THAT(program.view.questions, testing::ElementsAre(kQuitSolving));
-  EXPECT_FALSE(program.form().SolveButtonsVisible());
+  EXPECT_FALSE(program.Display().SolveButtonsVisible());
 }
 
 TEST_F(Questions, QuitDoesNothingOnNo) {
@@ -105,7 +105,7 @@ TEST_F(Questions, EventsCountAgainOnceItIsAnswered) {
   program.view.answer = false;
   program.main.Click(Button::CommandExit);
   program.main.Click(Button::CommandSolution);
-  EXPECT_TRUE(program.state().Finished);
+  EXPECT_TRUE(program.State().Finished);
 }
 
 }  // namespace

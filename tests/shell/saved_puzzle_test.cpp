@@ -14,7 +14,7 @@ class SavedPuzzle : public testing::Test {
  protected:
   SavedPuzzle() { program.Tick(CheckBox::MakeRegular); }
 
-  const std::string& Notice() const { return program.form().Notice(); }
+  const std::string& Notice() const { return program.Display().Notice(); }
   void Conceal() { program.main.Click(Button::CommandConceal); }
   std::string Path() const { return program.folder.PuzzleFile().string(); }
   // A puzzle is made while the disk is full.
@@ -32,11 +32,11 @@ TEST_F(SavedPuzzle, IsOneRecordOfPuzzleSolutionAndCages) {
   program.MakePuzzle();
   const auto records = RecordsOf(Path());
   ASSERT_EQ(records.size(), 1u);
-  EXPECT_EQ(records[0], program.state().SavedPuzzle);
+  EXPECT_EQ(records[0], program.State().SavedPuzzle);
   for (int cell = 0; cell < kCellCount; ++cell) {
-    EXPECT_EQ(records[0].Board[cell], program.state().Puzzle[cell]);
-    EXPECT_EQ(records[0].Solution[cell], program.state().WorkGrid[cell]);
-    EXPECT_EQ(records[0].CageMap[cell], program.state().CageOfCell[cell]);
+    EXPECT_EQ(records[0].Board[cell], program.State().Puzzle[cell]);
+    EXPECT_EQ(records[0].Solution[cell], program.State().WorkGrid[cell]);
+    EXPECT_EQ(records[0].CageMap[cell], program.State().CageOfCell[cell]);
     EXPECT_THAT(records[0].Solution[cell], testing::AllOf(testing::Ge(1), testing::Le(9)));
     EXPECT_THAT(records[0].Board[cell], testing::AnyOf(0, records[0].Solution[cell]));
   }
@@ -50,7 +50,7 @@ TEST_F(SavedPuzzle, IsAppendedAtEveryConceal) {
   ASSERT_EQ(records.size(), 3u);
   EXPECT_EQ(records[0].Solution, records[1].Solution);
   EXPECT_NE(records[0].Board, records[1].Board);
-  EXPECT_EQ(records[2], program.state().SavedPuzzle);
+  EXPECT_EQ(records[2], program.State().SavedPuzzle);
 }
 
 TEST_F(SavedPuzzle, IsNotWrittenBeforeConcealNorBySolving) {
@@ -77,13 +77,13 @@ TEST_F(SavedPuzzle, GoesToTheFolderOfTheProgramWhateverTheWorkingFolder) {
 
 TEST_F(SavedPuzzle, IsSolvedAllTheSameWhenItCannotBeSaved) {
   FailToSave();
-  EXPECT_EQ(program.form().Caption(), "Tessel Sudoku - Concealed in 1.23 ms");
-  EXPECT_EQ(EnabledButtons(program.form()), kPuzzleConcealed);
+  EXPECT_EQ(program.Display().Caption(), "Tessel Sudoku - Concealed in 1.23 ms");
+  EXPECT_EQ(EnabledButtons(program.Display()), kPuzzleConcealed);
   EXPECT_EQ(program.view.beeps, 1);
   EXPECT_TRUE(program.view.questions.empty()) << "no box appears";
   program.main.Click(Button::CommandSolve);
-  EXPECT_EQ(program.state().PlayBoard, program.state().SavedPuzzle);
-  EXPECT_NE(program.state().PlayBoard, PuzzleRecord{});
+  EXPECT_EQ(program.State().PlayBoard, program.State().SavedPuzzle);
+  EXPECT_NE(program.State().PlayBoard, PuzzleRecord{});
 }
 
 TEST_F(SavedPuzzle, TheFootOfTheWindowTellsWhereAndWhyItCouldNotBeSaved) {
@@ -104,13 +104,13 @@ TEST_F(SavedPuzzle, NoNoticeAppearsWhenAllIsWell) {
 
 TEST_F(SavedPuzzle, TheFootOfTheWindowTellsItsNumberAndWhereItIs) {
   program.MakePuzzle();
-  EXPECT_EQ(program.form().News(), "Saved as puzzle 1 in " + Path());
+  EXPECT_EQ(program.Display().News(), "Saved as puzzle 1 in " + Path());
   Conceal();
-  EXPECT_EQ(program.form().News(), "Saved as puzzle 2 in " + Path());
+  EXPECT_EQ(program.Display().News(), "Saved as puzzle 2 in " + Path());
   program.main.Click(Button::CommandGo);
-  EXPECT_EQ(program.form().News(), "");
+  EXPECT_EQ(program.Display().News(), "");
   FailToSave();
-  EXPECT_EQ(program.form().News(), "");
+  EXPECT_EQ(program.Display().News(), "");
 }
 
 TEST_F(SavedPuzzle, TheNoticeIsGoneAtTheNextCommand) {
@@ -145,14 +145,14 @@ TEST_F(SavedPuzzle, ALaterSaveWorksAgain) {
 TEST_F(SavedPuzzle, APipeInItsPlaceStopsNothing) {
   ASSERT_EQ(mkfifo(Path().c_str(), 0600), 0);
   program.MakePuzzle();
-  EXPECT_EQ(EnabledButtons(program.form()), kPuzzleConcealed);
+  EXPECT_EQ(EnabledButtons(program.Display()), kPuzzleConcealed);
   EXPECT_THAT(Notice(), testing::EndsWith("Not a regular file"));
 }
 
 TEST_F(SavedPuzzle, TheFolderMayVanishWhileTheProgramRuns) {
   std::filesystem::remove_all(program.folder.Path());
   program.MakePuzzle();
-  EXPECT_EQ(EnabledButtons(program.form()), kPuzzleConcealed);
+  EXPECT_EQ(EnabledButtons(program.Display()), kPuzzleConcealed);
   EXPECT_THAT(Notice(), testing::EndsWith("No such file or directory"));
 }
 

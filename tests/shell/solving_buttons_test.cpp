@@ -17,16 +17,16 @@ class SolvingButtons : public SolvingTest {
     for (int cell = 0; cell < kCellCount; ++cell) {
       EXPECT_EQ(Candidates(cell), KnownCandidates(cell)) << cell;
       EXPECT_EQ(Shown(cell), KnownCandidates(cell)) << cell;
-      EXPECT_EQ(form().Cell(cell).text, IsKnownGiven(cell) ? KnownSolution(cell) : 0) << cell;
+      EXPECT_EQ(Display().Cell(cell).text, IsKnownGiven(cell) ? KnownSolution(cell) : 0) << cell;
     }
-    EXPECT_EQ(state().PlayBoard, KnownPuzzle());
+    EXPECT_EQ(State().PlayBoard, KnownPuzzle());
   }
 };
 
 TEST_F(SolvingButtons, SolveOpensThePuzzleWithItsCandidates) {
-  EXPECT_TRUE(form().SolveButtonsVisible());
-  EXPECT_TRUE(form().SolveButtonsEnabled());
-  EXPECT_EQ(form().Caption(), texts::kProgram);
+  EXPECT_TRUE(Display().SolveButtonsVisible());
+  EXPECT_TRUE(Display().SolveButtonsEnabled());
+  EXPECT_EQ(Display().Caption(), texts::kProgram);
   EXPECT_TRUE(BoardIsOpen());
   ExpectUntouchedPuzzle();
 }
@@ -51,7 +51,7 @@ TEST_F(SolvingButtons, SolveEnablesHintAndThenSolution) {
   std::vector<Button> enabled;
   program.view.onChange = [&](FormPart part, int index) {
     const auto button = static_cast<Button>(index);
-    if (part == FormPart::kButton && form().Of(button).enabled) enabled.push_back(button);
+    if (part == FormPart::kButton && Display().Of(button).enabled) enabled.push_back(button);
   };
   program.main.Click(Button::CommandSolve);
   EXPECT_THAT(enabled, ElementsAre(Button::CommandHint, Button::CommandSolution));
@@ -61,8 +61,8 @@ TEST_F(SolvingButtons, SolveKeepsThePencilmarkMode) {
   Untick();
   Quit();
   program.main.Click(Button::CommandSolve);
-  EXPECT_EQ(state().PencilmarkMode, MarkMode::kNotUpdated);
-  EXPECT_FALSE(form().Checked(CheckBox::CheckPencilmarks));
+  EXPECT_EQ(State().PencilmarkMode, MarkMode::kNotUpdated);
+  EXPECT_FALSE(Display().Checked(CheckBox::CheckPencilmarks));
   EXPECT_EQ(Shown(kEmpty), kAllCandidates);
 }
 
@@ -110,7 +110,7 @@ TEST_F(SolvingButtons, RestartWithoutUpdatesShowsAllMarksAndKeepsTheMasksRight) 
 TEST_F(SolvingButtons, RestartPaintsEveryMarkBlack) {
   for (int cell = 0; cell < kCellCount; ++cell) {
     for (int digit = 1; digit <= kSide; ++digit) {
-      EXPECT_EQ(form().Mark(cell, digit).colour, kBlack);
+      EXPECT_EQ(Display().Mark(cell, digit).colour, kBlack);
     }
   }
 }
@@ -119,7 +119,7 @@ TEST_F(SolvingButtons, RestartWritesTheHintTextAndEndsAPendingAssignment) {
   Announce(40);
   Restart();
   ExpectPending(false);
-  EXPECT_EQ(form().TextHint(), "Press [Hint] if you got stuck");
+  EXPECT_EQ(Display().TextHint(), "Press [Hint] if you got stuck");
 }
 
 TEST_F(SolvingButtons, RestartLeavesRedCaptions) {
@@ -136,7 +136,7 @@ TEST_F(SolvingButtons, SolutionShowsEveryDigitAndEndsTheGame) {
   EXPECT_FALSE(BoardIsOpen());
   for (int cell = 0; cell < kCellCount; ++cell) {
     EXPECT_EQ(Shown(cell), 0);
-    EXPECT_EQ(form().Cell(cell).text, KnownSolution(cell));
+    EXPECT_EQ(Display().Cell(cell).text, KnownSolution(cell));
     EXPECT_EQ(Board(cell), KnownSolution(cell));
   }
 }
@@ -157,28 +157,28 @@ TEST_F(SolvingButtons, ClicksAreIgnoredFromSolutionToRestart) {
 
 TEST_F(SolvingButtons, SolutionEndsAPendingAssignmentAndLeavesTextAndRedCaptions) {
   Announce(40);
-  const std::string hint = form().TextHint();
+  const std::string hint = Display().TextHint();
   Solution();
   ExpectPending(false);
-  EXPECT_EQ(form().TextHint(), hint);
+  EXPECT_EQ(Display().TextHint(), hint);
   EXPECT_EQ(RedCaptions(), "E5");
 }
 
 TEST_F(SolvingButtons, SolutionLeavesTheCandidates) {
-  const MaskBoard before = state().Candidates;
+  const MaskBoard before = State().Candidates;
   Solution();
-  EXPECT_EQ(state().Candidates, before);
+  EXPECT_EQ(State().Candidates, before);
 }
 
 TEST_F(SolvingButtons, QuitShowsThePuzzleWithMarksThatVanish) {
   Left(kEmpty, 2);
   Quit();
-  EXPECT_FALSE(form().SolveButtonsVisible());
+  EXPECT_FALSE(Display().SolveButtonsVisible());
   for (int cell = 0; cell < kCellCount; ++cell) {
-    EXPECT_EQ(form().Cell(cell).text, IsKnownGiven(cell) ? KnownSolution(cell) : 0);
+    EXPECT_EQ(Display().Cell(cell).text, IsKnownGiven(cell) ? KnownSolution(cell) : 0);
     EXPECT_EQ(Shown(cell), kAllCandidates);
     for (int digit = 1; digit <= kSide; ++digit) {
-      EXPECT_EQ(form().Mark(cell, digit).colour, form().Cell(cell).PaintedBackground());
+      EXPECT_EQ(Display().Mark(cell, digit).colour, Display().Cell(cell).PaintedBackground());
     }
   }
 }
@@ -200,16 +200,16 @@ TEST_F(SolvingButtons, QuitIsSilentAndLeavesThePlayersBoard) {
 
 TEST_F(SolvingButtons, QuitLeavesTheGenerationButtons) {
   Quit();
-  EXPECT_EQ(EnabledButtons(form()), kPuzzleConcealed);
+  EXPECT_EQ(EnabledButtons(Display()), kPuzzleConcealed);
 }
 
 TEST_F(SolvingButtons, UntickingShowsAllMarksAndTickingTheCandidatesAgain) {
   Untick();
-  EXPECT_EQ(state().PencilmarkMode, MarkMode::kNotUpdated);
+  EXPECT_EQ(State().PencilmarkMode, MarkMode::kNotUpdated);
   EXPECT_EQ(Shown(kEmpty), kAllCandidates);
   EXPECT_EQ(Shown(kGiven), 0);
   program.Tick(CheckBox::CheckPencilmarks);
-  EXPECT_EQ(state().PencilmarkMode, MarkMode::kAutomatic);
+  EXPECT_EQ(State().PencilmarkMode, MarkMode::kAutomatic);
   ExpectUntouchedPuzzle();
   EXPECT_THAT(TakeSounds(), testing::IsEmpty());
 }
@@ -219,7 +219,7 @@ TEST_F(SolvingButtons, EntriesShowNoMarkInEitherMode) {
   EXPECT_EQ(Shown(kEmpty), 0);
   Untick();
   EXPECT_EQ(Shown(kEmpty), 0);
-  EXPECT_EQ(form().Cell(kEmpty).text, 2);
+  EXPECT_EQ(Display().Cell(kEmpty).text, 2);
 }
 
 TEST_F(SolvingButtons, ThePlayersOwnMarksSurviveTheBox) {
@@ -242,12 +242,12 @@ TEST_F(SolvingButtons, ABoxAlreadyInStepWithTheModeDoesNothing) {
   const long changes = program.view.changes;
   program.main.Toggle(CheckBox::CheckPencilmarks);
   EXPECT_EQ(program.view.changes, changes + 1) << "the box itself, no redraw";
-  EXPECT_EQ(state().PencilmarkMode, MarkMode::kNotUpdated);
-  EXPECT_EQ(state().AssignmentPending, Bool16::kTrue);
+  EXPECT_EQ(State().PencilmarkMode, MarkMode::kNotUpdated);
+  EXPECT_EQ(State().AssignmentPending, Bool16::kTrue);
   Probe().PencilmarkMode = MarkMode::kAutomatic;
   program.main.Toggle(CheckBox::CheckPencilmarks);
   EXPECT_EQ(program.view.changes, changes + 2);
-  EXPECT_EQ(state().AssignmentPending, Bool16::kTrue);
+  EXPECT_EQ(State().AssignmentPending, Bool16::kTrue);
 }
 
 }  // namespace

@@ -43,16 +43,17 @@ class SolvingTest : public testing::Test {
   void Middle(int cell, int digit = 5) { program.ClickMark(cell, digit, MouseButton::kMiddle); }
   void Untick() { program.Tick(CheckBox::CheckPencilmarks, false); }
 
-  const Form& form() const { return program.form(); }
-  const GameState& state() const { return program.state(); }
+  const Form& Display() const { return program.Display(); }
+  const GameState& State() const { return program.State(); }
   GameState& Probe() { return program.Probe(); }
-  int Board(int cell) { return state().PlayBoard.Board[cell]; }
-  Mask Candidates(int cell) { return state().Candidates[cell]; }
-  Mask Shown(int cell) { return ShownMarks(form(), cell); }
+  int Board(int cell) { return State().PlayBoard.Board[cell]; }
+  Mask Candidates(int cell) { return State().Candidates[cell]; }
+  Mask Shown(int cell) { return ShownMarks(Display(), cell); }
   bool BoardIsOpen() {
-    EXPECT_EQ(form().Of(Button::CommandHint).enabled, form().Of(Button::CommandSolution).enabled);
-    EXPECT_EQ(state().Finished, !form().Of(Button::CommandSolution).enabled);
-    return form().Of(Button::CommandSolution).enabled;
+    EXPECT_EQ(Display().Of(Button::CommandHint).enabled,
+              Display().Of(Button::CommandSolution).enabled);
+    EXPECT_EQ(State().Finished, !Display().Of(Button::CommandSolution).enabled);
+    return Display().Of(Button::CommandSolution).enabled;
   }
 
   // The numbers of the sounds played since the last call.
@@ -70,27 +71,27 @@ class SolvingTest : public testing::Test {
   // Has the hint button announce a digit for the cell, so that it reads "Show Me".
   void Announce(int cell) {
     Untick();
-    const MaskBoard kept = state().Candidates;
+    const MaskBoard kept = State().Candidates;
     Probe().Candidates.fill(0);
     Probe().Candidates[cell] = BitOf(1);
     program.main.Click(Button::CommandHint);
     Probe().Candidates = kept;
     TakeSounds();
-    ASSERT_EQ(state().AssignmentPending, Bool16::kTrue);
-    ASSERT_EQ(form().Of(Button::CommandHint).caption, "Show Me");
+    ASSERT_EQ(State().AssignmentPending, Bool16::kTrue);
+    ASSERT_EQ(Display().Of(Button::CommandHint).caption, "Show Me");
   }
   void ExpectPending(bool pending) {
-    EXPECT_EQ(state().AssignmentPending, pending ? Bool16::kTrue : Bool16::kFalse);
-    EXPECT_EQ(form().Of(Button::CommandHint).caption, pending ? "Show Me" : "Hint");
+    EXPECT_EQ(State().AssignmentPending, pending ? Bool16::kTrue : Bool16::kFalse);
+    EXPECT_EQ(Display().Of(Button::CommandHint).caption, pending ? "Show Me" : "Hint");
   }
   // The captions of the lines that are not black.
   std::string RedCaptions() {
     std::string red;
     for (int line = 0; line < kSide; ++line) {
-      if (form().LabelRow(line) == kHighlightRed) red += RowName(line);
+      if (Display().LabelRow(line) == kHighlightRed) red += RowName(line);
     }
     for (int line = 0; line < kSide; ++line) {
-      if (form().LabelColumn(line) == kHighlightRed) red += ColumnName(line);
+      if (Display().LabelColumn(line) == kHighlightRed) red += ColumnName(line);
     }
     return red;
   }

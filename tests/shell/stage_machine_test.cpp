@@ -16,7 +16,7 @@ class StageMachine : public testing::Test {
  protected:
   StageMachine() { program.Tick(CheckBox::MakeRegular); }
 
-  std::string Enabled() { return EnabledButtons(program.form()); }
+  std::string Enabled() { return EnabledButtons(program.Display()); }
   void Saw() { program.main.Click(Button::CommandSaw); }
   void Fill() { program.main.Click(Button::CommandGo); }
   void Conceal() { program.main.Click(Button::CommandConceal); }
@@ -46,14 +46,14 @@ TEST_F(StageMachine, LaterCommandsAreDeadUntilTheirStage) {
   Conceal();
   program.main.Click(Button::CommandSolve);
   EXPECT_EQ(Enabled(), kLayoutNeeded);
-  EXPECT_EQ(program.state().WorkGrid, CellDigits{});
-  EXPECT_FALSE(program.form().SolveButtonsVisible());
+  EXPECT_EQ(program.State().WorkGrid, CellDigits{});
+  EXPECT_FALSE(program.Display().SolveButtonsVisible());
   Saw();
   Conceal();
   program.main.Click(Button::CommandSolve);
   EXPECT_EQ(Enabled(), kLayoutMade);
-  EXPECT_EQ(program.state().Puzzle, CellDigits{});
-  EXPECT_FALSE(program.form().SolveButtonsVisible());
+  EXPECT_EQ(program.State().Puzzle, CellDigits{});
+  EXPECT_FALSE(program.Display().SolveButtonsVisible());
 }
 
 TEST_F(StageMachine, SawAfterAPuzzleStartsAgain) {
@@ -70,12 +70,12 @@ TEST_F(StageMachine, FillAfterAPuzzleTakesSolveAway) {
 
 TEST_F(StageMachine, ConcealCanBeRepeatedOnTheSameSolution) {
   program.MakePuzzle();
-  const CellDigits solution = program.state().WorkGrid;
-  const CellDigits first = program.state().Puzzle;
+  const CellDigits solution = program.State().WorkGrid;
+  const CellDigits first = program.State().Puzzle;
   Conceal();
   EXPECT_EQ(Enabled(), kPuzzleConcealed);
-  EXPECT_EQ(program.state().WorkGrid, solution);
-  EXPECT_NE(program.state().Puzzle, first);
+  EXPECT_EQ(program.State().WorkGrid, solution);
+  EXPECT_NE(program.State().Puzzle, first);
 }
 
 TEST_F(StageMachine, AStoppedFillLeavesConcealOff) {
@@ -83,18 +83,18 @@ TEST_F(StageMachine, AStoppedFillLeavesConcealOff) {
   StopAtPump(Button::CommandGo, 20);
   Fill();
   EXPECT_EQ(Enabled(), kLayoutMade);
-  EXPECT_EQ(program.form().Caption(), texts::kProgram);
-  EXPECT_EQ(program.state().WorkGrid, CellDigits{});
-  EXPECT_FALSE(program.state().StopRequested);
+  EXPECT_EQ(program.Display().Caption(), texts::kProgram);
+  EXPECT_EQ(program.State().WorkGrid, CellDigits{});
+  EXPECT_FALSE(program.State().StopRequested);
 }
 
 TEST_F(StageMachine, AStoppedFillAfterAPuzzleLeavesConcealAndSolveOff) {
   program.MakePuzzle();
-  const CellDigits solution = program.state().WorkGrid;
+  const CellDigits solution = program.State().WorkGrid;
   StopAtPump(Button::CommandGo, 1);
   Fill();
   EXPECT_EQ(Enabled(), kLayoutMade);
-  EXPECT_EQ(program.state().WorkGrid, solution);
+  EXPECT_EQ(program.State().WorkGrid, solution);
 }
 
 TEST_F(StageMachine, AStoppedFillCanBeStartedAgain) {
@@ -108,25 +108,25 @@ TEST_F(StageMachine, AStoppedFillCanBeStartedAgain) {
 TEST_F(StageMachine, AStoppedConcealLeavesSolveOff) {
   Saw();
   Fill();
-  const CellDigits solution = program.state().WorkGrid;
+  const CellDigits solution = program.State().WorkGrid;
   StopAtPump(Button::CommandConceal, 40);
   Conceal();
   EXPECT_EQ(Enabled(), kGridFilled);
-  EXPECT_EQ(program.form().Caption(), texts::kProgram);
-  EXPECT_EQ(program.state().WorkGrid, solution);
-  EXPECT_EQ(program.state().Puzzle, CellDigits{});
-  EXPECT_FALSE(program.state().StopRequested);
+  EXPECT_EQ(program.Display().Caption(), texts::kProgram);
+  EXPECT_EQ(program.State().WorkGrid, solution);
+  EXPECT_EQ(program.State().Puzzle, CellDigits{});
+  EXPECT_FALSE(program.State().StopRequested);
   EXPECT_FALSE(std::filesystem::exists(program.folder.PuzzleFile()));
-  for (int cell = 0; cell < kCellCount; ++cell) EXPECT_EQ(program.form().Cell(cell).text, 0);
+  for (int cell = 0; cell < kCellCount; ++cell) EXPECT_EQ(program.Display().Cell(cell).text, 0);
 }
 
 TEST_F(StageMachine, AStoppedConcealAfterAPuzzleTakesSolveAwayAndKeepsThePuzzle) {
   program.MakePuzzle();
-  const CellDigits puzzle = program.state().Puzzle;
+  const CellDigits puzzle = program.State().Puzzle;
   StopAtPump(Button::CommandConceal, 1);
   Conceal();
   EXPECT_EQ(Enabled(), kGridFilled);
-  EXPECT_EQ(program.state().Puzzle, puzzle);
+  EXPECT_EQ(program.State().Puzzle, puzzle);
   EXPECT_EQ(std::filesystem::file_size(program.folder.PuzzleFile()), 243u);
 }
 
@@ -159,7 +159,7 @@ TEST_F(StageMachine, ShowsWhichCommandRuns) {
 TEST_F(StageMachine, EveryCommandStartsUnderThePlainCaption) {
   std::vector<std::string> seen;
   program.view.onChange = [&](FormPart part, int) {
-    if (part == FormPart::kWindowCaption) seen.push_back(program.form().Caption());
+    if (part == FormPart::kWindowCaption) seen.push_back(program.Display().Caption());
   };
   program.MakePuzzle();
   program.MakePuzzle();
@@ -174,7 +174,7 @@ TEST_F(StageMachine, EveryCommandStartsUnderThePlainCaption) {
 TEST_F(StageMachine, SolveShowsThePlainCaption) {
   program.MakePuzzle();
   program.main.Click(Button::CommandSolve);
-  EXPECT_EQ(program.form().Caption(), texts::kProgram);
+  EXPECT_EQ(program.Display().Caption(), texts::kProgram);
 }
 
 struct DecimalComma : std::numpunct<char> {
@@ -191,29 +191,29 @@ TEST_F(StageMachine, TimesHaveAPointWhereTheLocaleHasAComma) {
   Saw();
   std::setlocale(LC_ALL, "C");
   std::locale::global(before);
-  EXPECT_EQ(program.form().Caption(), "Tessel Sudoku - Sawed in 1234.57 ms");
+  EXPECT_EQ(program.Display().Caption(), "Tessel Sudoku - Sawed in 1234.57 ms");
 }
 
 TEST_F(StageMachine, NoTimeIsNegativeWhenTheClockGoesBackwards) {
   program.clock.counterStep = -5'000'000;
   program.MakePuzzle();
-  EXPECT_EQ(program.form().Caption(), "Tessel Sudoku - Concealed in 0.00 ms");
+  EXPECT_EQ(program.Display().Caption(), "Tessel Sudoku - Concealed in 0.00 ms");
 }
 
 TEST_F(StageMachine, AShortTimeHasAZeroBeforeThePoint) {
   program.clock.counterStep = 420'000;
   Saw();
-  EXPECT_EQ(program.form().Caption(), "Tessel Sudoku - Sawed in 0.42 ms");
+  EXPECT_EQ(program.Display().Caption(), "Tessel Sudoku - Sawed in 0.42 ms");
 }
 
 TEST_F(StageMachine, ReleasesTheStopwatchButNotOfAStoppedFill) {
   Saw();
-  EXPECT_EQ(program.state().Stopwatch, nullptr);
+  EXPECT_EQ(program.State().Stopwatch, nullptr);
   StopAtPump(Button::CommandGo, 3);
   Fill();
-  EXPECT_NE(program.state().Stopwatch, nullptr);
+  EXPECT_NE(program.State().Stopwatch, nullptr);
   Fill();
-  EXPECT_EQ(program.state().Stopwatch, nullptr);
+  EXPECT_EQ(program.State().Stopwatch, nullptr);
 }
 
 TEST_F(StageMachine, BeepsForARandomLayoutAndForAPuzzle) {
@@ -240,9 +240,10 @@ TEST_F(StageMachine, SawClearsTheBoard) {
   program.MakePuzzle();
   Saw();
   for (int cell = 0; cell < kCellCount; ++cell) {
-    EXPECT_EQ(program.form().Cell(cell).text, 0);
-    EXPECT_EQ(program.form().Mark(cell, 5).colour, kBlack);
-    EXPECT_EQ(program.form().Cell(cell).PaintedBackground(), CageColourOf(program.state(), cell));
+    EXPECT_EQ(program.Display().Cell(cell).text, 0);
+    EXPECT_EQ(program.Display().Mark(cell, 5).colour, kBlack);
+    EXPECT_EQ(program.Display().Cell(cell).PaintedBackground(),
+              CageColourOf(program.State(), cell));
   }
 }
 
@@ -251,7 +252,7 @@ TEST_F(StageMachine, TheSpareButtonSetsItsFlagAndNothingElse) {
   const Snapshot before(program);
   program.main.Click(Button::Command1);
   EXPECT_EQ(Snapshot(program), before);
-  EXPECT_TRUE(program.state().Command1Pressed);
+  EXPECT_TRUE(program.State().Command1Pressed);
 }
 
 TEST_F(StageMachine, TicksOfTheGenerationBoxesChangeNothingElse) {
@@ -259,9 +260,9 @@ TEST_F(StageMachine, TicksOfTheGenerationBoxesChangeNothingElse) {
   for (const CheckBox box : {CheckBox::Rotational, CheckBox::MakeRegular,
                              CheckBox::ConcealRotational, CheckBox::CheckVisualize}) {
     const Snapshot before(program);
-    const bool checked = program.form().Checked(box);
+    const bool checked = program.Display().Checked(box);
     program.main.Toggle(box);
-    EXPECT_NE(program.form().Checked(box), checked);
+    EXPECT_NE(program.Display().Checked(box), checked);
     program.main.Toggle(box);
     EXPECT_EQ(Snapshot(program), before);
   }
@@ -271,7 +272,7 @@ TEST_F(StageMachine, PuzzlesInPairsAreSymmetric) {
   program.Tick(CheckBox::ConcealRotational);
   program.MakePuzzle();
   for (int cell = 0; cell < kCellCount; ++cell) {
-    EXPECT_EQ(program.state().Puzzle[cell] == 0, program.state().Puzzle[HalfTurnOf(cell)] == 0);
+    EXPECT_EQ(program.State().Puzzle[cell] == 0, program.State().Puzzle[HalfTurnOf(cell)] == 0);
   }
 }
 

@@ -79,48 +79,48 @@ TEST(StartUp, EndsTheProgramPathInASeparator) {
     EXPECT_EQ(StartIn(folder, 1)[3], "load /games/applause.wav") << folder;
   }
   TestProgram program;
-  EXPECT_EQ(program.state().ProgramPath, program.folder.Path().string() + '/');
+  EXPECT_EQ(program.State().ProgramPath, program.folder.Path().string() + '/');
 }
 
 TEST(StartUp, FillsTheTables) {
   TestProgram program;
-  EXPECT_EQ(program.state().BitCount[0], 0);
-  EXPECT_EQ(program.state().BitCount[256], 1);
-  EXPECT_EQ(program.state().BitCount[511], 9);
-  EXPECT_EQ(program.state().AxisLetters[7], 'H');
-  EXPECT_EQ(program.state().AxisLetters[8], 'J');
-  EXPECT_EQ(program.state().CageColour, kCageColours);
+  EXPECT_EQ(program.State().BitCount[0], 0);
+  EXPECT_EQ(program.State().BitCount[256], 1);
+  EXPECT_EQ(program.State().BitCount[511], 9);
+  EXPECT_EQ(program.State().AxisLetters[7], 'H');
+  EXPECT_EQ(program.State().AxisLetters[8], 'J');
+  EXPECT_EQ(program.State().CageColour, kCageColours);
 }
 
 TEST(StartUp, SetsTheFlags) {
   TestProgram program;
-  EXPECT_FALSE(program.state().StopRequested);
-  EXPECT_EQ(program.state().AssignmentPending, Bool16::kFalse);
-  EXPECT_EQ(program.state().PencilmarkMode, MarkMode::kAutomatic);
-  EXPECT_FALSE(program.state().Finished);
-  EXPECT_FALSE(program.state().Command1Pressed);
-  EXPECT_TRUE(program.state().SoundOn);
+  EXPECT_FALSE(program.State().StopRequested);
+  EXPECT_EQ(program.State().AssignmentPending, Bool16::kFalse);
+  EXPECT_EQ(program.State().PencilmarkMode, MarkMode::kAutomatic);
+  EXPECT_FALSE(program.State().Finished);
+  EXPECT_FALSE(program.State().Command1Pressed);
+  EXPECT_TRUE(program.State().SoundOn);
 }
 
 TEST(StartUp, TicksNothingButUpdatePencilmarks) {
   const TestProgram program;
-  EXPECT_TRUE(program.form().Checked(CheckBox::CheckPencilmarks));
+  EXPECT_TRUE(program.Display().Checked(CheckBox::CheckPencilmarks));
   for (const CheckBox box : {CheckBox::Rotational, CheckBox::MakeRegular,
                              CheckBox::ConcealRotational, CheckBox::CheckVisualize}) {
-    EXPECT_FALSE(program.form().Checked(box)) << IndexOf(box);
+    EXPECT_FALSE(program.Display().Checked(box)) << IndexOf(box);
   }
 }
 
 TEST(StartUp, ShowsAnEmptyBoardAndTheFirstStage) {
   const TestProgram program;
-  EXPECT_EQ(program.form().Caption(), texts::kProgram);
-  EXPECT_EQ(EnabledButtons(program.form()), kLayoutNeeded);
-  EXPECT_FALSE(program.form().SolveButtonsVisible());
-  EXPECT_EQ(program.form().TextHint(), "Press [Hint] if you got stuck");
-  EXPECT_EQ(program.form().Notice(), "");
+  EXPECT_EQ(program.Display().Caption(), texts::kProgram);
+  EXPECT_EQ(EnabledButtons(program.Display()), kLayoutNeeded);
+  EXPECT_FALSE(program.Display().SolveButtonsVisible());
+  EXPECT_EQ(program.Display().TextHint(), "Press [Hint] if you got stuck");
+  EXPECT_EQ(program.Display().Notice(), "");
   for (int cell = 0; cell < kCellCount; ++cell) {
-    EXPECT_EQ(program.form().Cell(cell).text, 0);
-    EXPECT_FALSE(program.form().Cell(cell).opaque);
+    EXPECT_EQ(program.Display().Cell(cell).text, 0);
+    EXPECT_FALSE(program.Display().Cell(cell).opaque);
   }
 }
 
@@ -137,9 +137,9 @@ TEST(StartUp, AProgramWithoutSoundPlayerIsSilentAndWorks) {
   program.MakePuzzle();
   program.main.Click(Button::CommandSolve);
   program.main.Click(Button::CommandSolution);
-  EXPECT_FALSE(program.state().SoundOn);
+  EXPECT_FALSE(program.State().SoundOn);
   EXPECT_TRUE(program.player.played.empty());
-  EXPECT_TRUE(program.state().Finished);
+  EXPECT_TRUE(program.State().Finished);
 }
 
 TEST(StartUp, ASoundThatCannotBeLoadedIsSkipped) {

@@ -8,21 +8,21 @@ namespace {
 class StatusLineTest : public SolvingTest {
  protected:
   StatusLine Line(std::optional<grade::Level> level = std::nullopt) {
-    return StatusLineOf(form(), state(), level);
+    return StatusLineOf(Display(), State(), level);
   }
   std::string Givens() {
-    return std::to_string(81 - std::ranges::count(state().SavedPuzzle.Board, 0)) + " givens";
+    return std::to_string(81 - std::ranges::count(State().SavedPuzzle.Board, 0)) + " givens";
   }
-  std::string CellsLeft() { return std::to_string(std::ranges::count(state().PlayBoard.Board, 0)); }
+  std::string CellsLeft() { return std::to_string(std::ranges::count(State().PlayBoard.Board, 0)); }
 };
 
 TEST(StatusLine, IsEmptyBeforeThereIsAPuzzle) {
   TestProgram program;
   for (const Button command : {Button::CommandSaw, Button::CommandGo}) {
-    EXPECT_EQ(StatusLineOf(program.form(), program.state(), grade::Level::kHard), StatusLine{});
+    EXPECT_EQ(StatusLineOf(program.Display(), program.State(), grade::Level::kHard), StatusLine{});
     program.main.Click(command);
   }
-  EXPECT_EQ(StatusLineOf(program.form(), program.state(), grade::Level::kHard), StatusLine{});
+  EXPECT_EQ(StatusLineOf(program.Display(), program.State(), grade::Level::kHard), StatusLine{});
 }
 
 TEST_F(StatusLineTest, TellsTheSavedPuzzleBeforeItIsOpened) {
@@ -71,8 +71,8 @@ TEST_F(StatusLineTest, WhatWentWrongComesBeforeAllElse) {
   FillAllBut(-1);
   std::filesystem::remove_all(program.folder.Path());
   program.main.Click(Button::CommandConceal);
-  EXPECT_EQ(Line(grade::Level::kEasy), (StatusLine{form().Notice(), ""}));
-  EXPECT_NE(form().Notice(), "");
+  EXPECT_EQ(Line(grade::Level::kEasy), (StatusLine{Display().Notice(), ""}));
+  EXPECT_NE(Display().Notice(), "");
 }
 
 }  // namespace

@@ -10,7 +10,7 @@ class Undo : public SolvingTest {
  protected:
   using SolvingTest::SolvingTest;
 
-  Position Now() { return state(); }
+  Position Now() { return State(); }
   void Back() { program.main.Undo(); }
   void Forth() { program.main.Redo(); }
   bool CanUndo() { return program.main.CanUndo(); }
@@ -20,19 +20,19 @@ class Undo : public SolvingTest {
   // The move is one step: back leads to where it began, forth to where it led, without a sound.
   template <typename Act>
   void ExpectOneStep(Act act) {
-    const std::string pictureBefore = PictureOf(form());
+    const std::string pictureBefore = PictureOf(Display());
     const Position before = Now();
     act();
     const Position after = Now();
-    const std::string pictureAfter = PictureOf(form());
+    const std::string pictureAfter = PictureOf(Display());
     ASSERT_NE(before, after);
     TakeSounds();
     Back();
     EXPECT_EQ(Now(), before);
-    EXPECT_EQ(PictureOf(form()), pictureBefore);
+    EXPECT_EQ(PictureOf(Display()), pictureBefore);
     Forth();
     EXPECT_EQ(Now(), after);
-    EXPECT_EQ(PictureOf(form()), pictureAfter);
+    EXPECT_EQ(PictureOf(Display()), pictureAfter);
     EXPECT_TRUE(TakeSounds().empty());
   }
 };
@@ -97,10 +97,10 @@ TEST_F(Undo, BoxOfTheMarksIsAStepAndFollows) {
   ExpectOneStep([this] { Untick(); });
   Left(kOtherEmpty, 9);
   Back();
-  EXPECT_FALSE(form().Checked(CheckBox::CheckPencilmarks));
+  EXPECT_FALSE(Display().Checked(CheckBox::CheckPencilmarks));
   Back();
-  EXPECT_TRUE(form().Checked(CheckBox::CheckPencilmarks));
-  EXPECT_EQ(state().PencilmarkMode, MarkMode::kAutomatic);
+  EXPECT_TRUE(Display().Checked(CheckBox::CheckPencilmarks));
+  EXPECT_EQ(State().PencilmarkMode, MarkMode::kAutomatic);
 }
 
 TEST_F(Undo, HintIsNoStepAndAnAnnouncedOneIsOver) {
@@ -108,7 +108,7 @@ TEST_F(Undo, HintIsNoStepAndAnAnnouncedOneIsOver) {
   Announce(kOtherEmpty);
   Back();
   ExpectPending(false);
-  EXPECT_TRUE(form().Checked(CheckBox::CheckPencilmarks)) << "the box was the step";
+  EXPECT_TRUE(Display().Checked(CheckBox::CheckPencilmarks)) << "the box was the step";
 }
 
 TEST_F(Undo, QuitEndsTheHistory) {
@@ -133,8 +133,8 @@ TEST_F(Undo, FillLeavesTheGameToComeBackTo) {
   Back();
   Forth();
   EXPECT_EQ(Now(), played);
-  EXPECT_EQ(form().Cell(kOtherEmpty).text, 0);
-  EXPECT_EQ(form().Mark(kOtherEmpty, 1).colour, kBlack);
+  EXPECT_EQ(Display().Cell(kOtherEmpty).text, 0);
+  EXPECT_EQ(Display().Mark(kOtherEmpty, 1).colour, kBlack);
 }
 
 TEST_F(Undo, AnotherPuzzleEndsTheHistory) {
@@ -185,16 +185,16 @@ TEST_F(UndoWithoutDisk, LongSessionIsUndoneToItsFirstPositionAndRedoneToItsLast)
   }
   while (CanRedo()) Forth();
   const Position last = Now();
-  const std::string lastPicture = PictureOf(form());
+  const std::string lastPicture = PictureOf(Display());
   long steps = 0;
   for (; CanUndo(); ++steps) Back();
   EXPECT_GT(steps, 10'000);
   EXPECT_EQ(Now(), first);
-  EXPECT_EQ(form().Checked(CheckBox::CheckPencilmarks), true);
+  EXPECT_EQ(Display().Checked(CheckBox::CheckPencilmarks), true);
   for (int cell = 0; cell < kCellCount; ++cell) EXPECT_EQ(Shown(cell), KnownCandidates(cell));
   while (CanRedo()) Forth();
   EXPECT_EQ(Now(), last);
-  EXPECT_EQ(PictureOf(form()), lastPicture);
+  EXPECT_EQ(PictureOf(Display()), lastPicture);
 }
 
 }  // namespace

@@ -40,33 +40,33 @@ std::vector<int> CellsToPlay(const GameState& state, std::uint64_t seed) {
 void AskForHint(TestProgram& program, Fingerprint& hints) {
   do {
     program.main.Click(Button::CommandHint);
-    hints.Add(program.form().TextHint());
+    hints.Add(program.Display().TextHint());
     for (int line = 0; line < kSide; ++line) {
-      hints.Add(program.form().LabelRow(line).red);
-      hints.Add(program.form().LabelColumn(line).red);
+      hints.Add(program.Display().LabelRow(line).red);
+      hints.Add(program.Display().LabelColumn(line).red);
     }
-  } while (program.state().AssignmentPending == Bool16::kTrue);
+  } while (program.State().AssignmentPending == Bool16::kTrue);
 }
 
 void Play(TestProgram& program, int seed, Fingerprint& hints) {
   program.main.Click(Button::CommandSolve);
   program.Tick(CheckBox::CheckPencilmarks, seed % 4 != 1);
-  for (const int cell : CellsToPlay(program.state(), static_cast<std::uint64_t>(seed))) {
+  for (const int cell : CellsToPlay(program.State(), static_cast<std::uint64_t>(seed))) {
     AskForHint(program, hints);
-    program.ClickMark(cell, program.state().PlayBoard.Solution[cell], MouseButton::kLeft);
+    program.ClickMark(cell, program.State().PlayBoard.Solution[cell], MouseButton::kLeft);
   }
-  hints.AddEach(program.state().PlayBoard.Board);
+  hints.AddEach(program.State().PlayBoard.Board);
 }
 
 void AddGame(Fingerprints& all, int seed) {
   TestProgram program(static_cast<std::uint64_t>(seed) << 8);
   ChooseKinds(program, seed);
   program.main.Click(Button::CommandSaw);
-  all.layouts.AddEach(program.state().CageOfCell);
+  all.layouts.AddEach(program.State().CageOfCell);
   program.main.Click(Button::CommandGo);
-  all.fills.AddEach(program.state().WorkGrid);
+  all.fills.AddEach(program.State().WorkGrid);
   program.main.Click(Button::CommandConceal);
-  all.puzzles.AddEach(program.state().Puzzle);
+  all.puzzles.AddEach(program.State().Puzzle);
   Play(program, seed, all.hints);
 }
 

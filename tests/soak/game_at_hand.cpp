@@ -14,7 +14,7 @@ std::vector<Position> Walked(Tessel_Main& main, Question canStep, Step step, Ste
   std::vector<Position> positions;
   while (positions.size() < kKeptSteps && (main.*canStep)()) {
     (main.*step)();
-    positions.push_back(main.state());
+    positions.push_back(main.State());
   }
   for (std::size_t i = 0; i < positions.size(); ++i) (main.*stepBack)();
   return positions;
@@ -24,11 +24,11 @@ std::vector<Position> Walked(Tessel_Main& main, Question canStep, Step step, Ste
 
 GameAtHand WalkedThrough(Tessel_Main& main) {
   GameAtHand game;
-  game.puzzle = main.state().SavedPuzzle;
-  game.position = main.state();
-  game.updatesMarks = main.form().Checked(CheckBox::CheckPencilmarks);
+  game.puzzle = main.State().SavedPuzzle;
+  game.position = main.State();
+  game.updatesMarks = main.Display().Checked(CheckBox::CheckPencilmarks);
   for (int cell = 0; cell < kCellCount; ++cell) {
-    const DisplayedCell& shown = main.form().Cell(cell);
+    const DisplayedCell& shown = main.Display().Cell(cell);
     game.digits.push_back(shown.text);
     for (const DisplayedMark& mark : shown.marks) game.marks.push_back(mark.visible);
   }

@@ -89,7 +89,7 @@ class LongWork {
     longest.milliseconds = std::max(longest.milliseconds, now_ - begin_);
     longest.allMilliseconds += now_ - begin_;
     longest.pumps = std::max(longest.pumps, pumps_);
-    EXPECT_TRUE(program_.form().Of(next).enabled) << "does not complete";
+    EXPECT_TRUE(program_.Display().Of(next).enabled) << "does not complete";
     longest.lastPumps = pumps_;
   }
 
@@ -129,8 +129,8 @@ class LongWork {
     longest_->gap = std::max(longest_->gap, now_ - before);
   }
   void WatchPass() {
-    if (givens_ == program_.state().WorkGrid) return;
-    givens_ = program_.state().WorkGrid;
+    if (givens_ == program_.State().WorkGrid) return;
+    givens_ = program_.State().WorkGrid;
     const double before = std::exchange(pass_, CpuMilliseconds());
     longest_->pass = std::max(longest_->pass, pass_ - before);
   }

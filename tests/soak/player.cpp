@@ -42,8 +42,8 @@ void Player::StartProgram(std::unique_ptr<TestProgram> program) {
   program_->view.onPump = [this](long) {
     if (stopAt_ > 0 && --stopAt_ == 0) {
       ++made.stops;
-      Click(program_->form().Of(Button::CommandGo).enabled ? Button::CommandGo
-                                                           : Button::CommandConceal);
+      Click(program_->Display().Of(Button::CommandGo).enabled ? Button::CommandGo
+                                                              : Button::CommandConceal);
     }
   };
 }
@@ -69,19 +69,19 @@ void Player::RunCommand(Button button, Button next) {
   if (Draw(kStopOneIn) == 0) {
     stopAt_ = 1 + Draw(200);
     Click(button);
-    EXPECT_NE(program_->form().Of(next).enabled, stopAt_ == 0) << "must heed Stop alone";
+    EXPECT_NE(program_->Display().Of(next).enabled, stopAt_ == 0) << "must heed Stop alone";
     stopAt_ = 0;
-    if (program_->form().Of(next).enabled) return;
+    if (program_->Display().Of(next).enabled) return;
   }
   Click(button);
-  EXPECT_TRUE(program_->form().Of(next).enabled) << "the command has not completed";
+  EXPECT_TRUE(program_->Display().Of(next).enabled) << "the command has not completed";
 }
 
 void Player::CheckLayout() {
   EXPECT_TRUE(IsLayout(State()));
-  EXPECT_TRUE(IsPaintedInCageColours(State(), program_->form()));
-  if (program_->form().Checked(CheckBox::Rotational) &&
-      !program_->form().Checked(CheckBox::MakeRegular)) {
+  EXPECT_TRUE(IsPaintedInCageColours(State(), program_->Display()));
+  if (program_->Display().Checked(CheckBox::Rotational) &&
+      !program_->Display().Checked(CheckBox::MakeRegular)) {
     EXPECT_TRUE(IsRotational(State()));
   }
 }
@@ -96,7 +96,7 @@ void Player::CheckPuzzle() {
   EXPECT_EQ(solver.CountSolutions(State().Puzzle, 2), 1);
   EXPECT_EQ(solver.Solution(), State().WorkGrid);
   const auto givens = kCellCount - std::ranges::count(State().Puzzle, 0);
-  EXPECT_GE(givens, program_->form().Checked(CheckBox::ConcealRotational) ? 23 : 24);
+  EXPECT_GE(givens, program_->Display().Checked(CheckBox::ConcealRotational) ? 23 : 24);
   PuzzleRecord saved;
   std::ifstream file(program_->folder.PuzzleFile(), std::ios::binary);
   file.seekg(made.puzzles * static_cast<long>(sizeof saved));
@@ -135,7 +135,7 @@ void Player::PlayToTheEnd() {
   program_->Tick(CheckBox::CheckPencilmarks);
   asksSpecialPass_ = Draw(2) == 0;
   hasWholeHistory_ = true;
-  while (program_->form().Of(Button::CommandSolution).enabled && !testing::Test::HasFailure()) {
+  while (program_->Display().Of(Button::CommandSolution).enabled && !testing::Test::HasFailure()) {
     MakeMistakes();
     if (Draw(4) == 0) ContinueInAnyMode();
     RepairMistakes();
@@ -254,7 +254,7 @@ void Player::ContinueAnew() {
 
 std::string Player::AskHint() {
   Click(Button::CommandHint);
-  return program_->form().TextHint();
+  return program_->Display().TextHint();
 }
 
 void Player::Click(Button button) {

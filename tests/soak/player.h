@@ -41,7 +41,7 @@ class Player {
 
  private:
   int Draw(int n) { return DrawIndex(random_, n); }
-  const GameState& State() const { return program_->state(); }
+  const GameState& State() const { return program_->State(); }
   void StartProgram(std::unique_ptr<TestProgram> program);
   void Click(Button button);
   void ClickMark(int cell, int digit, MouseButton button);
