@@ -6,7 +6,8 @@ namespace tessel::solver {
 
 namespace {
 
-// So many refusals in a row, and the cells are taken in ascending order. The window's numbers.
+// So many refusals in a row, and the cells are taken in ascending order. The window's numbers,
+// though no puzzle gets there: 61 givens would remain none of which can go.
 constexpr int kMaxRefusalsOfSingles = 61;
 constexpr int kMaxRefusalsOfPairs = 41;
 
