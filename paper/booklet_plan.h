@@ -31,6 +31,12 @@ struct BookletPlan {
   Box ContentOf(int page, const BookletOptions& options) const;
 };
 
+struct BookletView {
+  std::span<const BookletPuzzle> puzzles;
+  const BookletOptions& options;
+  const BookletPlan& plan;
+};
+
 // The font size of the line above a board, where a page has `count` of them.
 double HeadingSize(const BookletOptions& options, int count);
 BoardStyle BoardStyleOf(const BookletOptions& options, double side);

@@ -9,12 +9,6 @@
 
 namespace tessel::paper {
 
-struct BookletView {
-  std::span<const BookletPuzzle> puzzles;
-  const BookletOptions& options;
-  const BookletPlan& plan;
-};
-
 // A code takes longer than all else on a page: eight masks are tried on it. So the next ones are
 // made on other threads, a few at a time, whatever the length of the booklet.
 class CodesAhead {
