@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "bench/cpu_time.h"
+#include "bench/wall_time.h"
 #include "formats/format.h"
 #include "maker/maker.h"
 #include "paper/booklet.h"
@@ -40,8 +40,8 @@ void PrintRow(const char* name, const std::vector<BookletPuzzle>& puzzles,
       bytes += some.size();
       return true;
     };
-    least =
-        std::min(least, SecondsOf([&] { paper::WriteBooklet(puzzles, options, count).value(); }));
+    least = std::min(least,
+                     WallSecondsOf([&] { paper::WriteBooklet(puzzles, options, count).value(); }));
   }
   const auto size = static_cast<double>(puzzles.size());
   std::printf("  %-44s %11.3f %9.0f\n", name, 1e3 * least / size,
@@ -55,7 +55,7 @@ int main(int argc, char** argv) {
   using namespace tessel::bench;
   const int count = argc > 1 ? std::atoi(argv[1]) : 1000;
   const auto puzzles = MadePuzzles(count);
-  std::printf("\nBooklets of %d puzzles, processor time  ms a puzzle     bytes\n", count);
+  std::printf("\nBooklets of %d puzzles, wall time       ms a puzzle     bytes\n", count);
   BookletOptions options;
   PrintRow("four a page, solutions at the back", puzzles, options);
   options.perPage = 12;

@@ -67,7 +67,10 @@ class Page {
           svg.append(bytes.begin(), bytes.end());
           return true;
         });
-    if (!written) fault_ = written.error();
+    if (!written) {
+      fault_ = written.error();
+      return;
+    }
     html_ += pictures_.Element(svg, description);
   }
 

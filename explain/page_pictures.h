@@ -7,12 +7,12 @@
 
 namespace tessel::explain {
 
-// Each picture that Cairo writes has the outlines of its figures, most of its bytes. Pictures of
-// one page share them.
+// Cairo writes the outlines of the figures into each picture, where they are most of the bytes. The
+// pictures of one page share them.
 class PagePictures {
  public:
-  // The picture as an element of the page. Its names are given up for others, which are unique
-  // there.
+  // The picture, a whole SVG file, as an element of the page. Its ids are replaced by others that
+  // are unique there.
   std::string Element(std::string_view svg, std::string_view description);
   // The outlines that all elements so far refer to, as an element that shows nothing.
   std::string Outlines() const;

@@ -73,9 +73,12 @@ Fault PackingFault(std::string_view line, const Payload& payload, LzFault fault)
 
 struct TooDeep : std::exception {};
 
-std::string Shortened(std::string text, std::size_t most) {
-  if (text.size() > most) text = text.substr(0, most) + "...";
-  return text;
+// At most so many bytes and "...", without half a character.
+std::string Shortened(const std::string& text, std::size_t most) {
+  if (text.size() <= most) return text;
+  const auto goesOn = [&] { return (static_cast<unsigned char>(text[most]) & 0xC0U) == 0x80U; };
+  while (most > 0 && goesOn()) --most;
+  return text.substr(0, most) + "...";
 }
 
 bool SaysSomething(const Json& value) {
@@ -100,7 +103,7 @@ tl::expected<Json, std::string> JsonOf(const std::string& text) {
   };
   try {
     return Json::parse(text, shallow);
-  } catch (const Json::exception& error) {  // no JSON, or a number of more than 308 digits
+  } catch (const Json::exception& error) {  // no JSON, or a number that no double can hold
     const std::string message = error.what();
     return tl::unexpected(Shortened(message.substr(message.find("] ") + 2), 200));
   } catch (const TooDeep&) {
@@ -128,10 +131,10 @@ std::string LinkTo(std::string_view address, const OrderedJson& json) {
 }
 
 Fault JsonFault(const std::string& where, std::string expected, const Json* found) {
-  std::string shown =
+  const std::string shown =
       found == nullptr ? "nothing" : found->dump(-1, ' ', true, Json::error_handler_t::replace);
   return {0, "in its JSON, at " + (where.empty() ? "/" : where), std::move(expected),
-          Shortened(std::move(shown), 40)};
+          Shortened(shown, 40)};
 }
 
 std::string TextOf(const Json& object, const char* name) {

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "formats/cell_text.h"
+#include "formats/columns.h"
 #include "formats/sds.h"
 
 namespace tessel::formats {
@@ -38,17 +39,19 @@ constexpr std::array kForeign{
     Signature{"\x1F\x8B", "gzip"},
     Signature{"PK\x03\x04", "a zip file"},
     Signature{"%PDF-", "PDF"},
-    Signature{"index,", "CSV, which is only written", kThoseThatAreRead},
-    Signature{"source,question,", "CSV, which is only written", kThoseThatAreRead},
-    Signature{"{\"index\":", "JSON Lines, which are only written", kThoseThatAreRead},
+    Signature{"{\"", "JSON Lines, which are only written", kThoseThatAreRead},
     Signature{".---", "a drawing, which is only written", kThoseThatAreRead},
-    Signature{"<!DOCTYPE ksudoku>", "a saved game, which is only written", kThoseThatAreRead}};
+    Signature{"<!DOCTYPE ksudoku>", "a saved game of KSudoku, which is only written",
+              kThoseThatAreRead}};
 
 std::optional<Fault> ForeignFault(std::string_view start) {
   const auto begins = [&](const Signature& one) { return start.starts_with(one.bytes); };
   const auto* const found = std::ranges::find_if(kForeign, begins);
-  if (found == kForeign.end()) return std::nullopt;
-  return Fault{0, "", found->expected, found->name};
+  if (found != kForeign.end()) return Fault{0, "", found->expected, found->name};
+  if (ColumnsNamed(start.substr(0, start.find_first_of("\r\n")))) {
+    return Fault{0, "", kThoseThatAreRead, "CSV, which is only written"};
+  }
+  return std::nullopt;
 }
 
 const Format* FormatLike(std::string_view line) {
@@ -82,14 +85,15 @@ PuzzleReader::Result PuzzleReader::Next() {
 
 std::optional<Fault> PuzzleReader::Recognise() {
   Need(kSdsRecordSize);
-  const auto fault = format_ == nullptr ? ForeignFault(AtHand()) : std::nullopt;
+  const std::size_t mark = AtHand().starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0;
+  auto fault = format_ == nullptr ? ForeignFault(AtHand().substr(mark)) : std::nullopt;
   if (fault) {
     buffer_.clear();
     ended_ = true;
     return fault;
   }
   place_.isRecord = format_ != nullptr ? format_->name == kSdsName : LooksLikeSds(AtHand());
-  if (!place_.isRecord && AtHand().starts_with(kByteOrderMark)) start_ += kByteOrderMark.size();
+  if (!place_.isRecord) start_ += mark;
   return std::nullopt;
 }
 

@@ -48,8 +48,8 @@ struct BookletOptions {
   bool large = false;  // digits of at least 16 points
   bool titlePage = false;
   bool rulesPage = false;
-  // What a puzzle's QR code says; no codes without. Called once a puzzle, on several threads at
-  // once.
+  // What a puzzle's QR code says; no codes without. Called at most once for each puzzle, on several
+  // threads at once.
   std::function<std::string(const Puzzle&, int number)> link{};
   std::int64_t date = 0;  // seconds since 1970, UTC
 };

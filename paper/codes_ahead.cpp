@@ -21,8 +21,9 @@ QrCode CodesAhead::Next() {
 
 void CodesAhead::MakeOneMore() {
   if (begun_ == booklet_.plan.order.size()) return;
-  codes_.push_back(
-      std::async(std::launch::async, [this, position = begun_] { return CodeOf(position); }));
+  // Deferred: where no more threads can be had, the code is made when it is asked for.
+  constexpr auto policy = std::launch::async | std::launch::deferred;
+  codes_.push_back(std::async(policy, [this, position = begun_] { return CodeOf(position); }));
   ++begun_;
 }
 

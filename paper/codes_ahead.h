@@ -9,15 +9,17 @@
 
 namespace tessel::paper {
 
-// A code takes longer than all else on a page: eight masks are tried on it. So the next ones are
-// made on other threads, a few at a time, whatever the length of the booklet.
+// A code takes longer than the rest of a puzzle's place on its page: eight masks are tried on it.
+// So the next ones are made on other threads, two for each processor at a time.
 class CodesAhead {
  public:
   // Without links no code is made.
   explicit CodesAhead(const BookletView& booklet);
+  CodesAhead(const CodesAhead&) = delete;
+  CodesAhead& operator=(const CodesAhead&) = delete;
 
-  // The code of the next puzzle, in the order in which they are printed. Throws what the link
-  // throws.
+  // The code of the next puzzle, in the order in which they are printed; once for each. Throws what
+  // the link throws.
   QrCode Next();
 
  private:

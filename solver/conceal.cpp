@@ -7,7 +7,8 @@ namespace tessel::solver {
 namespace {
 
 // So many refusals in a row, and the cells are taken in ascending order. The window's numbers,
-// though no puzzle gets there: 61 givens would remain none of which can go.
+// though no puzzle gets there: 61 givens would remain none of which can go, and after 41 refused
+// pairs nothing remains to be tried.
 constexpr int kMaxRefusalsOfSingles = 61;
 constexpr int kMaxRefusalsOfPairs = 41;
 

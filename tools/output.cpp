@@ -18,7 +18,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view kPlaceholders = "XXXXXX";  // for letters that no other file has
+constexpr std::string_view kPlaceholders = "XXXXXX";  // where mkostemp makes the name a new one
 constexpr std::size_t kBufferBytes = std::size_t{1} << 16;
 constexpr mode_t kNewFileMode = 0666;
 

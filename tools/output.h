@@ -36,7 +36,8 @@ class Output {
   std::string buffer_;
 };
 
-// Removes what was to become the file when a program was killed that wrote it.
+// Removes the temporary files that killed programs left of `path`: every file of that name with a
+// point and six more characters.
 void RemoveTemporariesOf(const std::string& path);
 
 }  // namespace tessel::tools

@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include "formats/columns.h"
 #include "tests/formats/example.h"
 #include "tests/formats/reading.h"
 
@@ -51,14 +52,29 @@ TEST(PuzzleReader, NamesFilesThatAreOfNoFormatOnce) {
   EXPECT_EQ(Read("%PDF-1.5\n" + ExampleIn("text")), Told{expected + "PDF"});
 }
 
-TEST(PuzzleReader, NamesFormatsThatAreOnlyWrittenOnce) {
+// Only written, as all of it tells in one line.
+void ExpectOnlyWritten(const std::string& text) {
+  const Told told = Read(text + "\n" + ExampleIn("text"));
+  ASSERT_EQ(told.size(), 1U) << text;
+  EXPECT_THAT(told[0], StartsWith("f:1:1: expected puzzles in one of the formats that are read"));
+  EXPECT_THAT(told[0], EndsWith("only written"));
+}
+
+TEST(PuzzleReader, TellsOnceOfAFormatThatIsOnlyWritten) {
   for (const Format& format : AllFormats()) {
-    if (format.IsRead()) continue;
-    const std::string written = std::string(format.header) + *format.write(Example());
-    const auto told = Read(written + "\n" + ExampleIn("text"));
-    ASSERT_EQ(told.size(), 1U) << format.name;
-    EXPECT_THAT(told[0], StartsWith("f:1:1: expected puzzles in one of the formats that are read"));
-    EXPECT_THAT(told[0], EndsWith("only written"));
+    if (!format.IsRead()) {
+      ExpectOnlyWritten(std::string(format.header) + *format.write(Example()));
+    }
+  }
+}
+
+TEST(PuzzleReader, TellsOnceOfTablesOfAnyColumns) {
+  for (const char* const names : {"puzzle", "puzzle,solution", "source,question,answer,rating"}) {
+    const Columns columns = ColumnsNamed(names).value();
+    ExpectOnlyWritten(JsonLine(Example(), columns));
+    for (const char* const mark : {"", "\xEF\xBB\xBF"}) {
+      ExpectOnlyWritten(mark + CsvHeader(columns) + CsvLine(Example(), columns));
+    }
   }
 }
 

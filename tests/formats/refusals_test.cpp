@@ -3,6 +3,7 @@
 
 #include "formats/link.h"
 #include "formats/lz_string.h"
+#include "formats/unicode.h"
 #include "tests/formats/example.h"
 #include "tests/formats/reading.h"
 
@@ -123,6 +124,14 @@ TEST(Refusals, OfNumbersThatAreTooLarge) {
   EXPECT_EQ(FPuzzles("{\"size\":1e999}"),
             "f:1:29: in its JSON: expected valid JSON, found number overflow parsing '1e999'");
   EXPECT_LT(FPuzzles(std::string(100'000, '9') + "e999").size(), 300U);
+}
+
+TEST(Refusals, NeverShowHalfACharacter) {
+  for (int shift = 0; shift < 3; ++shift) {
+    std::string title(static_cast<std::size_t>(shift), 'x');
+    while (title.size() < 300) title += "\u20AC";
+    EXPECT_TRUE(IsUtf8(FPuzzles("{\"title\":\"" + title + "\x01"))) << shift;
+  }
 }
 
 TEST(Refusals, OfJsonThatIsNone) {

@@ -3,6 +3,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <thread>
+
 #include "tests/paper/command_output.h"
 #include "tests/paper/sample_puzzles.h"
 
@@ -53,6 +56,19 @@ INSTANTIATE_TEST_SUITE_P(PerPage, BookletOf, testing::Values(1, 2, 4, 6, 12));
 TEST(Booklet, SameInputSameBytes) {
   const auto puzzles = SamplePuzzles(9);
   EXPECT_TRUE(BookletBytes(puzzles, Everything()) == BookletBytes(puzzles, Everything()));
+}
+
+TEST(Booklet, SameBytesInWhateverOrderItsCodesAreMade) {
+  const auto puzzles = SamplePuzzles(9);
+  const auto bytes = [&](int pause) {
+    BookletOptions options = Everything();
+    options.link = [pause](const Puzzle&, int number) {
+      std::this_thread::sleep_for(std::chrono::milliseconds(pause * (7 * number % 5)));
+      return "code " + std::to_string(number);
+    };
+    return BookletBytes(puzzles, options);
+  };
+  EXPECT_TRUE(bytes(0) == bytes(3));
 }
 
 TEST(Booklet, TellsTitleAuthorAndTheGivenDate) {
@@ -128,7 +144,7 @@ TEST(Booklet, AProgramForCodesReadsTheLink) {
   }
 }
 
-// Codes are made ahead, on other threads, and must not change places.
+// The slower the earlier its place: codes that are made ahead must not change theirs.
 TEST(Booklet, EachPageHasTheCodesOfItsOwnPuzzles) {
   auto puzzles = SamplePuzzles(8);
   for (std::size_t k = 0; k < puzzles.size(); ++k) {
@@ -137,6 +153,7 @@ TEST(Booklet, EachPageHasTheCodesOfItsOwnPuzzles) {
   }
   BookletOptions options{.perPage = 1, .numberFrom = 11, .sections = true};
   options.link = [](const Puzzle& puzzle, int number) {
+    std::this_thread::sleep_for(std::chrono::milliseconds(2 * (19 - number)));
     return "given " + std::to_string(puzzle.givens[0]) + ", number " + std::to_string(number);
   };
   const TemporaryFile pdf("own.pdf", BookletBytes(puzzles, options));

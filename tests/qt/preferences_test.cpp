@@ -97,7 +97,9 @@ TEST_F(PreferencesFile, ThatCannotBeWrittenKeepsNothing) {
 
 TEST_F(PreferencesFile, HasWhatDialogsRememberBesideIt) {
   const QDir config(qEnvironmentVariable("XDG_CONFIG_HOME"));
-  QFile::remove(config.filePath("QtProject.conf"));  // of dialogs of earlier tests
+  for (const char* const file : {"QtProject.conf", "tessel-sudoku/QtProject.conf"}) {
+    QFile::remove(config.filePath(file));  // of dialogs of earlier tests
+  }
   Preferences::TakeInDialogs();
   {
     QFileDialog dialog;
