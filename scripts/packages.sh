@@ -4,7 +4,7 @@
 tool_packages=(g++ cmake ninja-build libexpected-dev libcli11-dev nlohmann-json3-dev libcadical-dev libssl-dev pkg-config
                libcairo2-dev libfreetype-dev libqrencode-dev fonts-lato)
 build_packages=("${tool_packages[@]}" qt6-base-dev qt6-multimedia-dev)
-check_packages=(libgmock-dev clang-format-14 clang-tidy-14 xvfb openbox xdotool xclip x11-utils pulseaudio pulseaudio-utils
+check_packages=(libgmock-dev libbenchmark-dev clang-format-14 clang-tidy-14 xvfb openbox xdotool xclip x11-utils pulseaudio pulseaudio-utils
                 desktop-file-utils appstream man-db jq
                 qpdf poppler-utils zbar-tools parallel)
 
